@@ -1,0 +1,45 @@
+# What every target of the house is compiled with, and the two ways of declaring one.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+find_package(Threads REQUIRED)
+
+add_library(zinfolio_hausregeln INTERFACE)
+target_include_directories(zinfolio_hausregeln INTERFACE "${CMAKE_SOURCE_DIR}/src")
+target_compile_definitions(zinfolio_hausregeln INTERFACE ZINFOLIO_VERSION="${PROJECT_VERSION}")
+target_compile_options(zinfolio_hausregeln INTERFACE
+  -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror
+  # GCC 12 sees overlaps in std::string's own concatenation that are not there (GCC bug 105329).
+  $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
+  # Two machines must give the same bits: no fused multiply-add unless it is written.
+  -ffp-contract=off)
+if(ZINFOLIO_SANITIZER)
+  target_compile_options(zinfolio_hausregeln INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(zinfolio_hausregeln INTERFACE -fsanitize=address,undefined)
+endif()
+if(ZINFOLIO_ABDECKUNG)
+  target_compile_options(zinfolio_hausregeln INTERFACE --coverage)
+  target_link_options(zinfolio_hausregeln INTERFACE --coverage)
+endif()
+
+# A room: a static library with the sources given; LINKS names the rooms below it.
+function(zinfolio_raum name)
+  cmake_parse_arguments(RAUM "" "" "QUELLEN;LINKS" ${ARGN})
+  add_library(${name} STATIC ${RAUM_QUELLEN})
+  target_link_libraries(${name} PUBLIC zinfolio_hausregeln ${RAUM_LINKS})
+endfunction()
+
+# A GoogleTest program for one room, run by ctest under its own name.
+function(zinfolio_test name)
+  cmake_parse_arguments(TEST "" "" "QUELLEN;LINKS" ${ARGN})
+  add_executable(${name} ${TEST_QUELLEN})
+  target_link_libraries(${name} PRIVATE zinfolio_hausregeln ${TEST_LINKS} GTest::gmock GTest::gtest_main)
+  target_include_directories(${name} PRIVATE "${CMAKE_SOURCE_DIR}/tests")
+  target_compile_options(${name} PRIVATE -O0)
+  target_precompile_headers(${name} REUSE_FROM zinfolio_testkopf)
+  add_test(NAME ${name} COMMAND ${name})
+endfunction()
