@@ -1,0 +1,28 @@
+#pragma once
+// Small views into a text.
+
+#include <string_view>
+
+namespace zinfolio {
+
+/// The text without blanks at either end.
+[[nodiscard]] constexpr std::string_view Getrimmt(std::string_view text) {
+    const auto erstes = text.find_first_not_of(' ');
+    if (erstes == std::string_view::npos) return {};
+    return text.substr(erstes, text.find_last_not_of(' ') - erstes + 1);
+}
+
+/// True for '0' to '9'.
+[[nodiscard]] constexpr bool IstZiffer(char zeichen) {
+    return zeichen >= '0' && zeichen <= '9';
+}
+
+/// Characters of a UTF-8 text (bytes that continue a character do not count).
+[[nodiscard]] constexpr std::size_t Zeichenzahl(std::string_view utf8) {
+    std::size_t anzahl = 0;
+    for (const char byte : utf8)
+        anzahl += (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U ? 1U : 0U;
+    return anzahl;
+}
+
+}  // namespace zinfolio

@@ -1,0 +1,118 @@
+#include "dates/zahl.h"
+
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+#include "dates/textteile.h"
+
+namespace zinfolio {
+namespace {
+
+/// A leading number, cleaned of its grouping for the conversion, and how many characters of the text it took.
+struct Zahlanfang {
+    std::string ziffern;
+    std::size_t laenge = 0;
+};
+
+enum class Punkte { gruppieren, trennen };
+
+Zahlanfang LeseAnfang(std::string_view text, Punkte punkte) {
+    Zahlanfang anfang;
+    std::size_t stelle = 0;
+    if (!text.empty() && (text[0] == '-' || text[0] == '+')) {
+        if (text[0] == '-') anfang.ziffern += '-';
+        stelle = 1;
+    }
+    const char dezimalzeichen = punkte == Punkte::gruppieren ? ',' : '.';
+    bool hatZiffer = false;
+    bool hatKomma = false;
+    for (; stelle < text.size(); ++stelle) {
+        const char zeichen = text[stelle];
+        if (IstZiffer(zeichen)) {
+            hatZiffer = true;
+            anfang.ziffern += zeichen;
+        } else if (zeichen == dezimalzeichen && !hatKomma) {
+            hatKomma = true;
+            anfang.ziffern += '.';
+        } else if (punkte == Punkte::trennen || zeichen != '.' || hatKomma) {
+            break;
+        }
+    }
+    anfang.laenge = hatZiffer ? stelle : 0;
+    return anfang;
+}
+
+std::optional<double> Wert(const std::string& ziffern) {
+    double wert = 0;
+    const auto ergebnis = std::from_chars(ziffern.data(), ziffern.data() + ziffern.size(), wert);
+    if (ergebnis.ec == std::errc::result_out_of_range) {
+        // A value below the smallest float is 0; only one that is too large has no number.
+        const auto komma = ziffern.find('.');
+        const bool klein = ziffern.find_first_of("123456789") > komma && komma != std::string::npos;
+        return klein ? std::optional(0.0) : std::nullopt;
+    }
+    return wert;
+}
+
+double WertDesAnfangs(std::string_view text, Punkte punkte) {
+    const auto erstes = text.find_first_not_of(' ');
+    if (erstes == std::string_view::npos) return 0;
+    const Zahlanfang anfang = LeseAnfang(text.substr(erstes), punkte);
+    return anfang.laenge == 0 ? 0 : Wert(anfang.ziffern).value_or(0);
+}
+
+template <class Gleitzahl>
+std::string Text(Gleitzahl wert, int stellen) {
+    if (wert == 0) return "0";
+    std::string text(32, '\0');
+    const auto ergebnis =
+        std::to_chars(text.data(), text.data() + text.size(), wert, std::chars_format::general, stellen);
+    text.resize(static_cast<std::size_t>(ergebnis.ptr - text.data()));
+    for (char& zeichen : text) {
+        if (zeichen == '.') zeichen = ',';
+        if (zeichen == 'e') zeichen = 'E';
+    }
+    return text;
+}
+
+}  // namespace
+
+std::optional<double> ZahlVersuch(std::string_view text) {
+    const std::string_view ohneRand = Getrimmt(text);
+    const Zahlanfang anfang = LeseAnfang(ohneRand, Punkte::gruppieren);
+    if (anfang.laenge == 0 || anfang.laenge != ohneRand.size()) return std::nullopt;
+    return Wert(anfang.ziffern);
+}
+
+double Zahl(std::string_view text) {
+    if (const auto wert = ZahlVersuch(text)) return *wert;
+    throw Zahlfehler("»" + std::string(text) + "« ist keine Zahl.");
+}
+
+double Zahlwert(std::string_view text) {
+    return WertDesAnfangs(text, Punkte::gruppieren);
+}
+
+double Punktwert(std::string_view text) {
+    return WertDesAnfangs(text, Punkte::trennen);
+}
+
+std::int16_t Ganzzahl16(double wert) {
+    const double ganz = std::nearbyint(wert);
+    if (!(ganz >= std::numeric_limits<std::int16_t>::min() &&
+          ganz <= std::numeric_limits<std::int16_t>::max())) {
+        throw Zahlfehler(Zahltext(wert) + " passt in keine ganze Zahl von 2 Byte.");
+    }
+    return static_cast<std::int16_t>(ganz);
+}
+
+std::string Zahltext(double wert) {
+    return Text(wert, 15);
+}
+
+std::string Zahltext(float wert) {
+    return Text(wert, 7);
+}
+
+}  // namespace zinfolio
