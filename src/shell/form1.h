@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QMainWindow>
+#include <filesystem>
+#include <functional>
+#include <map>
+#include <span>
+#include <string_view>
+
+class QBoxLayout;
+
+namespace zinfolio {
+
+struct Rechnereintrag;
+
+/// The start screen: the menu of the calculators, and the same calculators as large buttons. Opening one
+/// hides the screen, leaving it brings the screen back. Closing the screen ends the program at once.
+class Form1 : public QMainWindow {
+    Q_OBJECT
+
+  public:
+    explicit Form1(std::filesystem::path arbeitsordner);
+
+  protected:
+    void closeEvent(QCloseEvent* ereignis) override;
+
+  private:
+    void MenueAnlegen();
+    void TafelAnlegen();
+    void Gruppe(QBoxLayout& tafel, const QString& titel, std::span<const Rechnereintrag> rechner);
+    QAction* Eintrag(QWidget& menue, const char* name, const char* text);
+    void Oeffnen(std::string_view name);
+    void ZinsstaffelrechnerOeffnen();
+    void RechnerVerlassen();
+
+    std::filesystem::path arbeitsordner_;
+    /// What the entries of the menu do, by name; an entry without one is shown, but not offered.
+    std::map<std::string_view, std::function<void()>> wirkungen_;
+};
+
+}  // namespace zinfolio

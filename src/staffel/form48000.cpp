@@ -1,0 +1,134 @@
+#include "staffel/form48000.h"
+
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QTabWidget>
+#include <QToolBar>
+
+#include "staffel/meldungen.h"
+#include "staffel/registerberechnung.h"
+#include "staffel/registerzahlungen.h"
+#include "staffel/registerzinssaetze.h"
+#include "staffel/registerzinsverrechnung.h"
+#include "ui/datumsfeld.h"
+#include "ui/fenstergroesse.h"
+#include "ui/formbausteine.h"
+#include "ui/geschuetzt.h"
+#include "ui/meldungsfenster.h"
+#include "ui/symbol.h"
+
+namespace zinfolio {
+namespace {
+
+constexpr QSize anfangsgroesse(1180, 720);
+
+}  // namespace
+
+Form48000::Form48000(const std::filesystem::path& arbeitsordner)
+    : dateien_(arbeitsordner),
+      TabStrip1_(new QTabWidget(this)),
+      zahlungen_(new RegisterZahlungen(dateien_.Zahlungen(), this)),
+      zinssaetze_(new RegisterZinssaetze(dateien_.Konditionen(), this)),
+      zinsverrechnung_(new RegisterZinsverrechnung(this)),
+      berechnung_(new RegisterBerechnung(this)),
+      notizen_(new QWidget(this)) {
+    setObjectName("Form48000");
+    setWindowTitle("Zinsstaffelrechner");
+    TabStrip1_->setObjectName("TabStrip1");
+    TabStrip1_->addTab(Rollbar(zahlungen_), "Zahlungen");
+    TabStrip1_->addTab(Rollbar(zinssaetze_), "Zinssätze");
+    TabStrip1_->addTab(Rollbar(zinsverrechnung_), "Zinsverrechnung");
+    TabStrip1_->addTab(berechnung_, "Zinsstaffel berechnen");
+    TabStrip1_->addTab(notizen_, "Notizen");
+    setCentralWidget(TabStrip1_);
+    MenueAnlegen();
+    LeisteAnlegen();
+    connect(TabStrip1_, &QTabWidget::tabBarClicked, this, [this](int register_) {
+        // Selecting the tab that is selected already calculates anew.
+        if (register_ == berechnung && TabStrip1_->currentIndex() == berechnung) Rechnen();
+    });
+    Neu();
+    zinsverrechnung_->Zeigen(KontoeinstellungenLesen(dateien_.Ordner()));
+    connect(TabStrip1_, &QTabWidget::currentChanged, this, &Form48000::RegisterGewaehlt);
+    FenstergroesseHolen(*this, anfangsgroesse);
+}
+
+void Form48000::MenueAnlegen() {
+    QMenu* datei = menuBar()->addMenu("&Datei");
+    datei->addAction(Symbol("ende"), "&Ende", QKeySequence::Quit, this, &QWidget::close)
+        ->setObjectName("Programmende");
+}
+
+void Form48000::LeisteAnlegen() {
+    QToolBar* leiste = addToolBar("Werkzeuge");
+    leiste->setObjectName("Toolbar1");
+    leiste->setMovable(false);
+    leiste->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    QAction* auswertungen = leiste->addAction(Symbol("berechnen"), "&Berechnen", [this] {
+        if (TabStrip1_->currentIndex() == berechnung) return Rechnen();
+        TabStrip1_->setCurrentIndex(berechnung);
+    });
+    auswertungen->setObjectName("Auswertungen");
+    auswertungen->setToolTip("Zinsstaffel berechnen");
+    auswertungen->setShortcut(Qt::Key_F9);
+    auto* abstand = new QWidget;
+    abstand->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    leiste->addWidget(abstand);
+    QAction* ende = leiste->addAction(Symbol("ende"), "Ende", this, &QWidget::close);
+    ende->setObjectName("Command2");
+    ende->setToolTip("Zurück zum Startbildschirm");
+}
+
+void Form48000::Neu() {
+    dateien_.Neu();
+    zahlungen_->Leeren();
+    zahlungen_->NeuSchreiben();
+    zinssaetze_->Leeren();
+    zinssaetze_->NeuSchreiben2();
+    berechnung_->Leeren();
+    TabStrip1_->setCurrentIndex(zahlungen);
+}
+
+void Form48000::RegisterGewaehlt(int register_) {
+    if (register_ == berechnung) return Rechnen();
+    berechnung_->KurzformWaehlen();
+    if (register_ == zinssaetze) zinssaetze_->Betreten();
+    if (register_ == zinsverrechnung) zinsverrechnung_->Betreten();
+    if (register_ == notizen) notizen_->setFocus();
+}
+
+void Form48000::Rechnen() {
+    std::optional<Ablehnung> ablehnung;
+    const bool gelungen = GeschuetztMitWartezeiger(this, [&] {
+        Konto konto;
+        berechnung_->Leeren();
+        ablehnung = dateien_.Rechnen(zinsverrechnung_->Lesen(), konto);
+        zahlungen_->NeuSchreiben();
+        zinssaetze_->NeuSchreiben2();
+        if (!ablehnung) berechnung_->Zeigen(std::move(konto.loesung));
+    });
+    if (ablehnung) Ablehnen(*ablehnung);
+    if (!gelungen) TabStrip1_->setCurrentIndex(zahlungen);
+}
+
+void Form48000::Ablehnen(const Ablehnung& ablehnung) {
+    MeldungZeigen(this, {.text = Anzeigetext(ablehnung.Meldung)});
+    const QString ziel = QString::fromStdString(ablehnung.Register);
+    for (int register_ = 0; register_ < TabStrip1_->count(); ++register_) {
+        if (TabStrip1_->tabText(register_) == ziel) TabStrip1_->setCurrentIndex(register_);
+    }
+    zinsverrechnung_->Fokussieren(ablehnung.Feld);
+}
+
+void Form48000::closeEvent(QCloseEvent* ereignis) {
+    if (auto* datum = qobject_cast<Datumsfeld*>(focusWidget()); datum && !datum->DarfVerlassenWerden()) {
+        ereignis->ignore();
+        return;
+    }
+    Geschuetzt(this, [this] { KontoeinstellungenSchreiben(dateien_.Ordner(), zinsverrechnung_->Lesen()); });
+    FenstergroesseMerken(*this);
+    ereignis->accept();
+    emit verlassen();
+}
+
+}  // namespace zinfolio

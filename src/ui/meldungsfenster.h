@@ -1,0 +1,40 @@
+#pragma once
+// The one door for message boxes: forms tell and ask through it, tests answer through it.
+
+#include <QString>
+#include <functional>
+#include <string_view>
+
+class QWidget;
+
+namespace zinfolio {
+
+/// A box as the user meets it. Titles and texts are part of what the program promises.
+struct Meldungsinhalt {
+    QString text = {};
+    QString titel = "OK";
+    /// What an expert finds behind the box's details button; mostly empty.
+    QString einzelheiten = {};
+};
+
+enum class Meldungsart { hinweis, warnung, frage };
+
+enum class Antwort { ja, nein };
+
+/// Shows a message with an OK button and waits for it.
+void MeldungZeigen(QWidget* fenster, const Meldungsinhalt& inhalt, Meldungsart art = Meldungsart::warnung);
+
+/// Asks a question with Yes and No; closing the box is No.
+[[nodiscard]] bool Fragen(QWidget* fenster, const Meldungsinhalt& inhalt);
+
+/// What stands in for the user: is given each box and answers it.
+using Meldungszeuge = std::function<Antwort(Meldungsart, const Meldungsinhalt&)>;
+
+/// Lets `zeuge` answer every box instead of showing it, for tests; an empty one shows them again. Gives who
+/// answered so far.
+Meldungszeuge MeldungenUmleiten(Meldungszeuge zeuge);
+
+/// A `std::string_view` of the core (UTF-8) as toolkit text.
+[[nodiscard]] QString Anzeigetext(std::string_view text);
+
+}  // namespace zinfolio

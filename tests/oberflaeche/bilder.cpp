@@ -1,0 +1,126 @@
+// Draws the pictures of the README and the handbook from the real program: zinfolio_bilder FOLDER
+// [dunkel|gross]. The second word shows the same on a dark palette, or with a font twice as large.
+
+#include <QApplication>
+#include <QComboBox>
+#include <QRadioButton>
+
+#include "oberflaeche/kontoformular.h"
+#include "shell/form1.h"
+#include "ui/deutsch.h"
+#include "ui/uhr.h"
+
+namespace {
+
+using namespace zinfolio;
+
+void Bild(QWidget& fenster, const QDir& ordner, const char* name) {
+    QTest::qWait(60);
+    fenster.grab().save(ordner.filePath(QString(name) + ".png"));
+}
+
+void Kondition(Form48000& form, const char* datum,
+               std::initializer_list<std::pair<const char*, const char*>> werte) {
+    Waehle(form, Form48000::zinssaetze);
+    Finde<QRadioButton>(&form, "Option1(2)")->click();
+    Fuelle(form, "Gültigdatum", datum);
+    for (const auto& [feld, wert] : werte)
+        Fuelle(form, feld, wert);
+    Klicke(form, "speichern2");
+}
+
+/// A giro account of one year: salary, rent, a car, and a change of rates in July.
+void Beispielkonto(Form48000& form) {
+    Zahlung(form, "01.01.2025", "2500", "Übertrag");
+    Fuelle(form, "Ratzahl", "12");
+    Zahlung(form, "31.01.2025", "2850,40", "Gehalt");
+    Klicke(form, "Command3");
+    Fuelle(form, "Ratzahl", "12");
+    Zahlung(form, "03.01.2025", "-985", "Miete");
+    Klicke(form, "Command3");
+    Zahlung(form, "14.05.2025", "-13490", "Gebrauchtwagen");
+    Zahlung(form, "20.11.2025", "1200", "Steuererstattung");
+    Kondition(form, "01.01.2025",
+              {{"Gutzins1", "0,5"},
+               {"Gutzins2", "1,25"},
+               {"Guthabenlinie", "5000"},
+               {"Kreditzins1", "9,75"},
+               {"Kreditzins2", "14,5"},
+               {"Kreditlinie", "3000"}});
+    Kondition(form, "01.07.2025",
+              {{"Gutzins1", "0,25"},
+               {"Gutzins2", "1"},
+               {"Guthabenlinie", "5000"},
+               {"Kreditzins1", "10,25"},
+               {"Kreditzins2", "14,75"},
+               {"Kreditlinie", "3000"}});
+    Waehle(form, Form48000::zinsverrechnung);
+    Finde<QComboBox>(&form, "Combo1")->setCurrentText("Quartalsende");
+    Fuelle(form, "Kontodatum", "31.12.2025");
+    Druecke(Qt::Key_Return);
+}
+
+void BilderDesKontos(const QDir& ordner) {
+    const QTemporaryDir arbeitsordner;
+    Form48000 form(arbeitsordner.path().toStdString());
+    form.resize(1180, 720);
+    Zeige(form);
+    Beispielkonto(form);
+    Bild(form, ordner, "zinsverrechnung");
+    Waehle(form, Form48000::zinssaetze);
+    Bild(form, ordner, "zinssaetze");
+    Waehle(form, Form48000::berechnung);
+    Bild(form, ordner, "kontoauszug");
+    Finde<QComboBox>(&form, "Combo4")->setCurrentText("Detailansicht 3");
+    Bild(form, ordner, "detailansicht3");
+    Waehle(form, Form48000::zahlungen);
+    Fuelle(form, "Begdatum", "30.11.2025");
+    Fuelle(form, "Betrag", "150");
+    Fuelle(form, "Beschreibung", "Sparrate");
+    Fuelle(form, "Ratzahl", "6");
+    Bild(form, ordner, "zahlungen");
+    Klicke(form, "Speichern");
+    Bild(form, ordner, "vorschau");
+}
+
+void DunkelFaerben() {
+    QPalette palette;
+    for (const auto rolle : {QPalette::Window, QPalette::Button})
+        palette.setColor(rolle, QColor(45, 45, 48));
+    for (const auto rolle : {QPalette::Base, QPalette::AlternateBase})
+        palette.setColor(rolle, QColor(30, 30, 32));
+    for (const auto rolle : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(rolle, QColor(225, 225, 225));
+        palette.setColor(QPalette::Disabled, rolle, QColor(120, 120, 120));
+    }
+    QApplication::setPalette(palette);
+}
+
+void SchriftVerdoppeln() {
+    QFont schrift = QApplication::font();
+    schrift.setPointSizeF(schrift.pointSizeF() * 2);
+    QApplication::setFont(schrift);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QApplication programm(argc, argv);
+    if (argc < 2) return 2;
+    const QString variante = argc > 2 ? argv[2] : "";
+    if (variante == "dunkel") DunkelFaerben();
+    if (variante == "gross") SchriftVerdoppeln();
+    const QDir ordner(argv[1]);
+    QDir().mkpath(ordner.path());
+    QTemporaryDir konfiguration;
+    qputenv("XDG_CONFIG_HOME", konfiguration.path().toUtf8());
+    DeutscheTexteLaden(programm);
+    UhrStellen(*Datum::Aus(2026, 1, 5));
+    MeldungenUmleiten([](Meldungsart, const Meldungsinhalt&) { return Antwort::ja; });
+    Form1 start(konfiguration.path().toStdString());
+    Zeige(start);
+    Bild(start, ordner, "startbild");
+    start.hide();
+    BilderDesKontos(ordner);
+    return 0;
+}
