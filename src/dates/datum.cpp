@@ -1,6 +1,8 @@
 #include "dates/datum.h"
 
+#include <array>
 #include <charconv>
+#include <utility>
 
 #include "dates/textteile.h"
 
@@ -8,6 +10,7 @@ namespace zinfolio {
 namespace {
 
 constexpr std::int64_t ersteTageszahl = Datum().Tageszahl();
+static_assert(Datum::Aus(100, 1, 1)->Tageszahl() == ersteTageszahl);
 constexpr std::int64_t letzteTageszahl = 3652364;
 static_assert(Datum::Aus(9999, 12, 31)->Tageszahl() == letzteTageszahl);
 
@@ -97,10 +100,12 @@ double Datumsschluessel(std::string_view datumstext) {
 }
 
 std::string Schluesseltext(std::string_view datumstext) {
-    const auto teil = [&](std::size_t von, std::size_t laenge) {
-        return von < datumstext.size() ? std::string(datumstext.substr(von, laenge)) : std::string();
-    };
-    return teil(6, 4) + teil(3, 2) + teil(0, 2);
+    constexpr std::array<std::pair<std::size_t, std::size_t>, 3> teile{{{6, 4}, {3, 2}, {0, 2}}};
+    std::string schluessel;
+    for (const auto& [von, laenge] : teile) {
+        if (von < datumstext.size()) schluessel += datumstext.substr(von, laenge);
+    }
+    return schluessel;
 }
 
 }  // namespace zinfolio

@@ -2,12 +2,16 @@
 // The calendar of the system: real dates from 01.01.0100 to 31.12.9999 in the proleptic Gregorian calendar,
 // read by position from a `Datumstext` (tt.mm.jjjj), counted in whole days.
 
+#include <array>
+#include <bit>
 #include <compare>
 #include <cstdint>
+#include <cstring>
 #include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 namespace zinfolio {
 
@@ -29,9 +33,49 @@ class Datumsfehler : public std::runtime_error {
 
 /// Last day of a month (1 to 12), 28 to 31.
 [[nodiscard]] constexpr int Monatslaenge(int jahr, int monat) {
-    if (monat == 2) return IstSchaltjahr(jahr) ? 29 : 28;
-    return monat == 4 || monat == 6 || monat == 9 || monat == 11 ? 30 : 31;
+    constexpr std::array<std::int8_t, 13> laengen{0, 31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+    return laengen[static_cast<std::size_t>(monat)] + (monat == 2 && IstSchaltjahr(jahr) ? 1 : 0);
 }
+
+/// Digits of a date text, several bytes at a time: statements of tens of thousands of rows read two dates a
+/// row.
+namespace datumsziffern {
+
+struct Paare {
+    std::uint64_t werte = 0;
+    bool fremd = false;
+
+    /// The number of the two digits at a place of the text.
+    [[nodiscard]] constexpr int An(unsigned stelle) const {
+        return static_cast<int>((werte >> (8 * stelle)) & 0xFFU);
+    }
+};
+
+/// The first N bytes of a text as a number, the first one lowest.
+template <std::size_t N>
+[[nodiscard]] constexpr std::uint64_t Bytes(const char* text) {
+    std::uint64_t zahl = 0;
+    if (!std::is_constant_evaluated() && std::endian::native == std::endian::little) {
+        std::memcpy(&zahl, text, N);
+        return zahl;
+    }
+    for (std::size_t stelle = 0; stelle < N; ++stelle) {
+        zahl |= static_cast<std::uint64_t>(static_cast<unsigned char>(text[stelle])) << (8 * stelle);
+    }
+    return zahl;
+}
+
+/// Reads up to eight characters that must be points where `grund` has points and digits where it has zeros.
+[[nodiscard]] constexpr Paare Lesen(std::uint64_t zeichen, std::uint64_t grund) {
+    // What is too small borrows and shows 0x80 or more; what is too large passes 0x7F by the addition.
+    const std::uint64_t ziffern = zeichen - grund;
+    const std::uint64_t punkte = (~grund & 0x1010'1010'1010'1010) >> 4U;
+    const std::uint64_t zuwachs = 0x7676'7676'7676'7676 + punkte * 9;
+    const bool fremd = ((ziffern | (ziffern + zuwachs)) & 0x8080'8080'8080'8080) != 0;
+    return {ziffern * 10 + (ziffern >> 8U), fremd};
+}
+
+}  // namespace datumsziffern
 
 /// A real calendar date. Dates compare and subtract; they do not add.
 class Datum {
@@ -51,17 +95,13 @@ class Datum {
 
     /// The date of a `Datumstext`, exactly tt.mm.jjjj, or nothing.
     [[nodiscard]] static constexpr std::optional<Datum> Versuche(std::string_view text) {
-        if (text.size() != 10 || text[2] != '.' || text[5] != '.') return std::nullopt;
-        unsigned fremd = 0;
-        const auto ziffer = [&](std::size_t stelle) {
-            const auto wert = static_cast<unsigned char>(text[stelle]) - unsigned{'0'};
-            fremd |= static_cast<unsigned>(wert > 9);
-            return static_cast<int>(wert);
-        };
-        const int tag = ziffer(0) * 10 + ziffer(1);
-        const int monat = ziffer(3) * 10 + ziffer(4);
-        const int jahr = ((ziffer(6) * 10 + ziffer(7)) * 10 + ziffer(8)) * 10 + ziffer(9);
-        return fremd != 0 ? std::nullopt : Aus(jahr, monat, tag);
+        if (text.size() != 10) return std::nullopt;
+        const datumsziffern::Paare vorn =
+            datumsziffern::Lesen(datumsziffern::Bytes<8>(text.data()), 0x3030'2E30'302E'3030);
+        const datumsziffern::Paare hinten =
+            datumsziffern::Lesen(datumsziffern::Bytes<2>(text.data() + 8), 0x3030);
+        if (vorn.fremd || hinten.fremd) return std::nullopt;
+        return Aus(vorn.An(6) * 100 + hinten.An(0), vorn.An(3), vorn.An(0));
     }
 
     /// The date of a `Datumstext`; anything else is a `Datumsfehler` that shows the text.
@@ -78,32 +118,40 @@ class Datum {
     [[nodiscard]] constexpr int Tag() const { return tag_; }
 
     /// Whole days since 01.03.0000, in [36465, 3652364].
-    [[nodiscard]] constexpr std::int32_t Tageszahl() const {
-        // A year that begins in March puts the leap day last: day of year = (153 * m + 2) / 5 + tag - 1, m in
-        // [0, 11].
-        const int jahr = jahr_ - (monat_ <= 2 ? 1 : 0);
-        const int monat = monat_ > 2 ? monat_ - 3 : monat_ + 9;
-        return 365 * jahr + jahr / 4 - jahr / 100 + jahr / 400 + (153 * monat + 2) / 5 + tag_ - 1;
-    }
+    [[nodiscard]] constexpr std::int32_t Tageszahl() const { return tageszahl_; }
 
     /// The `Datumstext` tt.mm.jjjj.
     [[nodiscard]] std::string Text() const;
 
-    friend constexpr auto operator<=>(const Datum&, const Datum&) = default;
+    friend constexpr auto operator<=>(const Datum& a, const Datum& b) {
+        return a.tageszahl_ <=> b.tageszahl_;
+    }
+    friend constexpr bool operator==(const Datum& a, const Datum& b) { return a.tageszahl_ == b.tageszahl_; }
 
     /// Calendar days from `frueher` to `spaeter`; the first day counts not, the last one does.
-    friend constexpr int operator-(Datum spaeter, Datum frueher) {
-        return spaeter.Tageszahl() - frueher.Tageszahl();
+    friend constexpr int operator-(const Datum& spaeter, const Datum& frueher) {
+        return spaeter.tageszahl_ - frueher.tageszahl_;
     }
 
   private:
     constexpr Datum(int jahr, int monat, int tag)
-        : jahr_(static_cast<std::int16_t>(jahr)),
+        : tageszahl_(Zaehle(jahr, monat, tag)),
+          jahr_(static_cast<std::int16_t>(jahr)),
           monat_(static_cast<std::int8_t>(monat)),
           tag_(static_cast<std::int8_t>(tag)) {}
 
+    [[nodiscard]] static constexpr std::int32_t Zaehle(int jahr, int monat, int tag) {
+        // A year that begins in March puts the leap day last.
+        constexpr std::array<std::int16_t, 13> tageVorMonat{0,   306, 337, 0,   31,  61, 92,
+                                                            122, 153, 184, 214, 245, 275};
+        const int maerzjahr = jahr - (monat <= 2 ? 1 : 0);
+        return 365 * maerzjahr + maerzjahr / 4 - maerzjahr / 100 + maerzjahr / 400 +
+               tageVorMonat[static_cast<std::size_t>(monat)] + tag - 1;
+    }
+
     [[noreturn]] static void Unlesbar(std::string_view text);
 
+    std::int32_t tageszahl_ = 36465;
     std::int16_t jahr_ = erstesJahr;
     std::int8_t monat_ = 1;
     std::int8_t tag_ = 1;

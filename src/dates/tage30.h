@@ -9,8 +9,8 @@ namespace zinfolio {
 /// Days from `von` to `bis` on months of 30 days. A 31st, and the last day of February, count as the 30th, in
 /// both dates. Negative when `bis` lies before `von`. 28.02. of a leap year stays the 28th: 28.02.2007
 /// to 28.02.2008 is 358.
-[[nodiscard]] constexpr int Tage30(Datum von, Datum bis) {
-    const auto tag = [](Datum datum) {
+[[nodiscard]] constexpr int Tage30(const Datum& von, const Datum& bis) {
+    const auto tag = [](const Datum& datum) {
         const bool februarende = datum.Monat() == 2 && datum.Tag() == Monatslaenge(datum.Jahr(), 2);
         return datum.Tag() == 31 || februarende ? 30 : datum.Tag();
     };

@@ -1,8 +1,11 @@
 #include "dates/zahl.h"
 
+#include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 #include "dates/textteile.h"
 
@@ -65,15 +68,36 @@ double WertDesAnfangs(std::string_view text, Punkte punkte) {
 template <class Gleitzahl>
 std::string Text(Gleitzahl wert, int stellen) {
     if (wert == 0) return "0";
-    std::string text(32, '\0');
-    const auto ergebnis =
-        std::to_chars(text.data(), text.data() + text.size(), wert, std::chars_format::general, stellen);
-    text.resize(static_cast<std::size_t>(ergebnis.ptr - text.data()));
-    for (char& zeichen : text) {
-        if (zeichen == '.') zeichen = ',';
-        if (zeichen == 'e') zeichen = 'E';
+    char puffer[32];
+    auto* const ende =
+        std::to_chars(puffer, puffer + sizeof puffer, wert, std::chars_format::general, stellen).ptr;
+    std::replace(puffer, ende, '.', ',');
+    std::replace(puffer, ende, 'e', 'E');
+    return {puffer, ende};
+}
+
+/// A 4-byte float from 0,0001 to below 10 million with 7 digits, else nothing. Such a float times a power of
+/// ten up to 10^10 has at most 48 bits, so that the product is exact and its rounding, halves to the even
+/// digit, the one of the text.
+std::optional<std::string> SiebenStellen(float wert) {
+    constexpr std::array zehner{1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10};
+    const double betrag = std::fabs(static_cast<double>(wert));
+    if (!(betrag >= 1e-4 && betrag < 1e7)) return std::nullopt;
+    std::size_t stellen = 0;
+    while (betrag * zehner[stellen] < 1e6)
+        ++stellen;
+    auto ziffern = static_cast<std::int64_t>(std::nearbyint(betrag * zehner[stellen]));
+    for (; stellen > 0 && ziffern % 10 == 0; --stellen)
+        ziffern /= 10;
+    char puffer[16];
+    char* const ende = puffer + sizeof puffer;
+    char* anfang = ende;
+    for (std::size_t platz = 0; ziffern > 0 || platz <= stellen; ++platz, ziffern /= 10) {
+        if (platz == stellen && stellen > 0) *--anfang = ',';
+        *--anfang = static_cast<char>('0' + ziffern % 10);
     }
-    return text;
+    if (wert < 0) *--anfang = '-';
+    return std::string(anfang, ende);
 }
 
 }  // namespace
@@ -112,6 +136,7 @@ std::string Zahltext(double wert) {
 }
 
 std::string Zahltext(float wert) {
+    if (auto text = SiebenStellen(wert)) return *std::move(text);
     return Text(wert, 7);
 }
 

@@ -1,8 +1,11 @@
 #include "dates/zahlformat.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
+#include <optional>
 
 #include "dates/zahl.h"
 
@@ -11,62 +14,78 @@ namespace {
 
 constexpr int signifikant = 15;
 
-/// |wert| = 0,d1d2d3... * 10^punkt, with the digits d1 to d15 in `ziffern`.
+/// 10^0 to 10^15, each exact.
+constexpr std::array<std::int64_t, signifikant + 1> zehner = [] {
+    std::array<std::int64_t, signifikant + 1> potenzen{1};
+    for (std::size_t i = 1; i < potenzen.size(); ++i)
+        potenzen[i] = 10 * potenzen[i - 1];
+    return potenzen;
+}();
+
+/// The digits of a number in units of its last decimal: `ziffern` (at most 15 digits), then `nullen` zeros.
 struct Dezimalzahl {
-    std::string ziffern;
-    int punkt = 0;
+    std::int64_t ziffern = 0;
+    int nullen = 0;
 };
 
-Dezimalzahl Zerlegen(double betrag) {
+/// |wert| cut to `stellen` decimals without the way through 15 digits, or nothing where only that way is
+/// sure. The text of 15 digits lies no further than 5e-15 of the number away from it, and the product below
+/// no further than 2e-16 of it; where no half unit is that near, both go to the same neighbour.
+std::optional<Dezimalzahl> Kurzweg(double betrag, int stellen) {
+    if (stellen > signifikant) return std::nullopt;
+    const double produkt = betrag * static_cast<double>(zehner[static_cast<std::size_t>(stellen)]);
+    if (!(produkt < 1e14)) return std::nullopt;
+    const auto ganz = static_cast<std::int64_t>(produkt);
+    const double rest = produkt - static_cast<double>(ganz);
+    if (std::fabs(rest - 0.5) <= produkt * 6e-15) return std::nullopt;
+    return Dezimalzahl{ganz + (rest > 0.5 ? 1 : 0), 0};
+}
+
+/// The same by way of 15 digits, halves of these away from zero.
+Dezimalzahl UeberText(double betrag, int stellen) {
     char puffer[32];
-    const auto ende =
+    char* const ende =
         std::to_chars(puffer, puffer + sizeof puffer, betrag, std::chars_format::scientific, signifikant - 1)
             .ptr;
-    const std::string_view text(puffer, static_cast<std::size_t>(ende - puffer));
-    const auto exponent = text.find('e');
-    int zehner = 0;
-    const char* anfang = text.data() + exponent + (text[exponent + 1] == '+' ? 2 : 1);
-    std::from_chars(anfang, ende, zehner);
-    return {std::string(1, text[0]) + std::string(text.substr(2, exponent - 2)), zehner + 1};
+    char* const exponent = std::find(puffer, ende, 'e');
+    int zehnerexponent = 0;
+    std::from_chars(exponent + (exponent[1] == '+' ? 2 : 1), ende, zehnerexponent);
+    puffer[1] = puffer[0];  // "d.ddd" becomes "dddd"
+    std::int64_t ziffern = 0;
+    std::from_chars(puffer + 1, exponent, ziffern);
+    const int behalten = zehnerexponent + 1 + stellen;
+    if (behalten >= signifikant) return {ziffern, behalten - signifikant};
+    if (behalten < 0) return {};
+    const std::int64_t teiler = zehner[static_cast<std::size_t>(signifikant - behalten)];
+    return {(ziffern + teiler / 2) / teiler, 0};
 }
 
-/// Cuts the digits to `stellen` decimals, halves away from zero; no digits are left of a number that becomes
-/// 0.
-void RundeAuf(Dezimalzahl& zahl, int stellen) {
-    const int behalten = zahl.punkt + stellen;
-    if (behalten >= signifikant) return;
-    const bool aufrunden = behalten >= 0 && zahl.ziffern[static_cast<std::size_t>(behalten)] >= '5';
-    zahl.ziffern.resize(static_cast<std::size_t>(std::max(behalten, 0)));
-    if (!aufrunden) return;
-    auto stelle = zahl.ziffern.rbegin();
-    for (; stelle != zahl.ziffern.rend() && *stelle == '9'; ++stelle)
-        *stelle = '0';
-    if (stelle != zahl.ziffern.rend()) {
-        ++*stelle;
-        return;
-    }
-    zahl.ziffern.insert(0, 1, '1');
-    ++zahl.punkt;
+int Ziffernzahl(const Dezimalzahl& zahl) {
+    if (zahl.ziffern == 0) return 0;
+    const auto groesser = std::upper_bound(zehner.begin(), zehner.end(), zahl.ziffern);
+    return static_cast<int>(groesser - zehner.begin()) + zahl.nullen;
 }
 
-/// The digit at a place counted from the decimal sign: 0 is the first behind it, -1 the one before it.
-char ZifferAn(const Dezimalzahl& zahl, int platz) {
-    const int stelle = zahl.punkt + platz;
-    const bool vorhanden = stelle >= 0 && stelle < static_cast<int>(zahl.ziffern.size());
-    return vorhanden ? zahl.ziffern[static_cast<std::size_t>(stelle)] : '0';
-}
-
-std::string Zusammensetzen(const Dezimalzahl& zahl, const Zahlmuster& muster, bool minus) {
-    std::string text;
-    if (minus) text += '-';
-    const int vorziffern = std::max({zahl.punkt, muster.mindestziffern, 0});
-    for (int rest = vorziffern; rest > 0; --rest) {
-        text += ZifferAn(zahl, -rest);
-        if (muster.gruppiert && rest > 1 && rest % 3 == 1) text += '.';
-    }
-    if (muster.nachkommastellen > 0) text += ',';
+/// Writes the digits from the last to the first.
+std::string Zusammensetzen(Dezimalzahl zahl, const Zahlmuster& muster, bool minus) {
+    const int vorziffern = std::max({Ziffernzahl(zahl) - muster.nachkommastellen, muster.mindestziffern, 0});
+    const int gruppen = muster.gruppiert && vorziffern > 0 ? (vorziffern - 1) / 3 : 0;
+    const int hinten = muster.nachkommastellen > 0 ? 1 + muster.nachkommastellen : 0;
+    std::string text(static_cast<std::size_t>((minus ? 1 : 0) + vorziffern + gruppen + hinten), '-');
+    auto zeichen = text.end();
+    const auto setze = [&] {
+        const bool angehaengt = zahl.nullen > 0;
+        *--zeichen = angehaengt ? '0' : static_cast<char>('0' + zahl.ziffern % 10);
+        zahl.nullen -= angehaengt ? 1 : 0;
+        zahl.ziffern /= angehaengt ? 1 : 10;
+    };
     for (int platz = 0; platz < muster.nachkommastellen; ++platz)
-        text += ZifferAn(zahl, platz);
+        setze();
+    if (hinten > 0) *--zeichen = ',';
+    for (int platz = 0; platz < vorziffern; ++platz) {
+        if (muster.gruppiert && platz > 0 && platz % 3 == 0) *--zeichen = '.';
+        setze();
+    }
     return text;
 }
 
@@ -74,14 +93,10 @@ std::string Zusammensetzen(const Dezimalzahl& zahl, const Zahlmuster& muster, bo
 
 std::string Format(double wert, const Zahlmuster& muster) {
     if (!std::isfinite(wert)) throw Zahlfehler("Das Ergebnis ist keine darstellbare Zahl.");
-    Dezimalzahl zahl;
-    if (wert != 0) {
-        zahl = Zerlegen(std::fabs(wert));
-        RundeAuf(zahl, muster.nachkommastellen);
-    }
-    const bool null = zahl.ziffern.find_first_not_of('0') == std::string::npos;
-    if (null) zahl = {};
-    return Zusammensetzen(zahl, muster, wert < 0 && !null);
+    const double betrag = std::fabs(wert);
+    const auto kurz = Kurzweg(betrag, muster.nachkommastellen);
+    const Dezimalzahl zahl = kurz ? *kurz : UeberText(betrag, muster.nachkommastellen);
+    return Zusammensetzen(zahl, muster, wert < 0 && zahl.ziffern != 0);
 }
 
 std::string Format(std::string_view zahltext, const Zahlmuster& muster) {
