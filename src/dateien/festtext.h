@@ -37,8 +37,10 @@ class Festtext {
 
     /// The bytes without blanks and zero bytes at the end. The view lives as long as this object.
     [[nodiscard]] constexpr std::string_view Getrimmt() const {
-        const std::size_t letztes = Roh().find_last_not_of(std::string_view(" \0", 2));
-        return Roh().substr(0, letztes == std::string_view::npos ? 0 : letztes + 1);
+        std::size_t laenge = N;
+        while (laenge > 0 && (bytes[laenge - 1] == ' ' || bytes[laenge - 1] == '\0'))
+            --laenge;
+        return Roh().substr(0, laenge);
     }
 
     friend constexpr bool operator==(const Festtext&, const Festtext&) = default;

@@ -81,6 +81,8 @@ void Anhaengen(std::string& utf8, char32_t codepunkt) {
 }  // namespace
 
 std::string NachWindows1252(std::string_view utf8) {
+    const auto istAscii = [](char byte) { return static_cast<unsigned char>(byte) < 0x80; };
+    if (std::all_of(utf8.begin(), utf8.end(), istAscii)) return std::string(utf8);
     std::string bytes;
     bytes.reserve(utf8.size());
     while (!utf8.empty()) {

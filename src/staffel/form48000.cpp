@@ -5,8 +5,10 @@
 #include <QTabWidget>
 #include <QToolBar>
 
+#include "finmath/effektivdateien.h"
 #include "staffel/meldungen.h"
 #include "staffel/registerberechnung.h"
+#include "staffel/registereffektivzins.h"
 #include "staffel/registerzahlungen.h"
 #include "staffel/registerzinssaetze.h"
 #include "staffel/registerzinsverrechnung.h"
@@ -31,7 +33,8 @@ Form48000::Form48000(const std::filesystem::path& arbeitsordner)
       zinssaetze_(new RegisterZinssaetze(dateien_.Konditionen(), this)),
       zinsverrechnung_(new RegisterZinsverrechnung(this)),
       berechnung_(new RegisterBerechnung(this)),
-      notizen_(new QWidget(this)) {
+      notizen_(new QWidget(this)),
+      effektivzins_(new RegisterEffektivzins(this)) {
     setObjectName("Form48000");
     setWindowTitle("Zinsstaffelrechner");
     TabStrip1_->setObjectName("TabStrip1");
@@ -40,7 +43,13 @@ Form48000::Form48000(const std::filesystem::path& arbeitsordner)
     TabStrip1_->addTab(Rollbar(zinsverrechnung_), "Zinsverrechnung");
     TabStrip1_->addTab(berechnung_, "Zinsstaffel berechnen");
     TabStrip1_->addTab(notizen_, "Notizen");
+    effektivzins_->hide();
     setCentralWidget(TabStrip1_);
+    connect(berechnung_, &RegisterBerechnung::effektivzinsVerlangt, this, &Form48000::EffektivzinsRechnen);
+    connect(effektivzins_, &RegisterEffektivzins::zurueck, this, [this] {
+        const QSignalBlocker ohneNeueRechnung(TabStrip1_);
+        TabStrip1_->setCurrentIndex(berechnung);
+    });
     MenueAnlegen();
     LeisteAnlegen();
     connect(TabStrip1_, &QTabWidget::tabBarClicked, this, [this](int register_) {
@@ -86,11 +95,14 @@ void Form48000::Neu() {
     zinssaetze_->Leeren();
     zinssaetze_->NeuSchreiben2();
     berechnung_->Leeren();
+    berechnung_->EffektivzinsVerbergen();
+    TabStrip1_->removeTab(TabStrip1_->indexOf(effektivzins_));
     TabStrip1_->setCurrentIndex(zahlungen);
 }
 
 void Form48000::RegisterGewaehlt(int register_) {
     if (register_ == berechnung) return Rechnen();
+    if (register_ == effektivzinssatz) return;
     berechnung_->KurzformWaehlen();
     if (register_ == zinssaetze) zinssaetze_->Betreten();
     if (register_ == zinsverrechnung) zinsverrechnung_->Betreten();
@@ -106,9 +118,22 @@ void Form48000::Rechnen() {
         zahlungen_->NeuSchreiben();
         zinssaetze_->NeuSchreiben2();
         if (!ablehnung) berechnung_->Zeigen(std::move(konto.loesung));
+        if (TabStrip1_->indexOf(effektivzins_) < 0) berechnung_->EffektivzinsVerbergen();
     });
     if (ablehnung) Ablehnen(*ablehnung);
     if (!gelungen) TabStrip1_->setCurrentIndex(zahlungen);
+}
+
+void Form48000::EffektivzinsRechnen() {
+    GeschuetztMitWartezeiger(this, [this] {
+        Kontoeffektivzins ergebnis =
+            KontoEffektivzinsRechnen(berechnung_->Loesung(), berechnung_->GewaehlteEffektivmethode());
+        KontoEffektivzinsAblegen(dateien_.Ordner(), ergebnis);
+        berechnung_->EffektivzinsZeigen(ergebnis.ezins);
+        effektivzins_->Zeigen(std::move(ergebnis));
+        if (TabStrip1_->indexOf(effektivzins_) < 0) TabStrip1_->addTab(effektivzins_, "Effektivzinssatz");
+        TabStrip1_->setCurrentWidget(effektivzins_);
+    });
 }
 
 void Form48000::Ablehnen(const Ablehnung& ablehnung) {

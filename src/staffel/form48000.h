@@ -9,6 +9,7 @@ class QTabWidget;
 namespace zinfolio {
 
 class RegisterBerechnung;
+class RegisterEffektivzins;
 class RegisterZahlungen;
 class RegisterZinssaetze;
 class RegisterZinsverrechnung;
@@ -23,7 +24,7 @@ class Form48000 : public QMainWindow {
     explicit Form48000(const std::filesystem::path& arbeitsordner);
 
     /// The indexes of the tabs, from 0.
-    enum Register { zahlungen, zinssaetze, zinsverrechnung, berechnung, notizen };
+    enum Register { zahlungen, zinssaetze, zinsverrechnung, berechnung, notizen, effektivzinssatz };
 
   signals:
     /// The form has been left.
@@ -38,6 +39,7 @@ class Form48000 : public QMainWindow {
     void Neu();
     void RegisterGewaehlt(int register_);
     void Rechnen();
+    void EffektivzinsRechnen();
     void Ablehnen(const Ablehnung& ablehnung);
 
     Kontodateien dateien_;
@@ -47,6 +49,8 @@ class Form48000 : public QMainWindow {
     RegisterZinsverrechnung* zinsverrechnung_;
     RegisterBerechnung* berechnung_;
     QWidget* notizen_;
+    /// Its tab exists only while there is a result.
+    RegisterEffektivzins* effektivzins_;
 };
 
 }  // namespace zinfolio

@@ -27,10 +27,11 @@ void Kontodateien::Ablegen(const Konto& konto, const Konto& vorher) const {
 }
 
 std::optional<Ablehnung> Kontodateien::Rechnen(const Kontoeinstellungen& einstellungen, Konto& konto) const {
-    konto = {};
-    konto.einstellungen = einstellungen;
-    konto.zahlungen = zahlungen_.Lesen();
-    konto.konditionen = konditionen_.Lesen();
+    konto = {.zahlungen = zahlungen_.Lesen(),
+             .konditionen = konditionen_.Lesen(),
+             .termine = {},
+             .loesung = {},
+             .einstellungen = einstellungen};
     const Konto vorher = konto;
     std::optional<Ablehnung> ablehnung;
     std::exception_ptr fehler;

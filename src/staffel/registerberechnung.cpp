@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QVBoxLayout>
 
@@ -39,26 +40,22 @@ QString Betragstext(double betrag) {
 RegisterBerechnung::RegisterBerechnung(QWidget* eltern)
     : QWidget(eltern),
       Combo4_(NeueAuswahl("Combo4", kontoansichten, this)),
-      Gesamtzahlungssumme_(Summe("Gesamtzahlungssumme")),
-      Geszins_(Summe("Geszins")),
-      EV_(Summe("EV")),
+      Gesamtzahlungssumme_(NeueKennzahl("Gesamtzahlungssumme", this)),
+      Geszins_(NeueKennzahl("Geszins", this)),
+      EV_(NeueKennzahl("EV", this)),
+      ezins_(NeueKennzahl("ezins", this)),
+      Label26_(new QLabel("Effektivzinssatz", this)),
+      Label28_(new QLabel("%", this)),
+      Combo6_(NeueAuswahl("Combo6", effektivmethoden, this)),
+      Command5_(NeueTaste("Command5", "&Effektivzinssatz berechnen", this,
+                          [this] { emit effektivzinsVerlangt(); })),
       Grid_(new Tabelle("Grid", this)) {
     setObjectName("Frame4");
     auto* anordnung = new QVBoxLayout(this);
     anordnung->addWidget(Kopfzeile());
+    anordnung->addWidget(Effektivzeile());
     anordnung->addWidget(Grid_, 1);
     connect(Combo4_, &QComboBox::currentIndexChanged, this, &RegisterBerechnung::AnsichtZeigen);
-}
-
-QLabel* RegisterBerechnung::Summe(const char* name) {
-    auto* wert = new QLabel(this);
-    wert->setObjectName(name);
-    wert->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    QFont schrift = wert->font();
-    schrift.setPointSizeF(schrift.pointSizeF() * 1.5);
-    schrift.setBold(true);
-    wert->setFont(schrift);
-    return wert;
 }
 
 QWidget* RegisterBerechnung::Kopfzeile() {
@@ -83,8 +80,43 @@ QWidget* RegisterBerechnung::Kopfzeile() {
     return kopf;
 }
 
+QWidget* RegisterBerechnung::Effektivzeile() {
+    Label26_->setObjectName("Label26");
+    Label28_->setObjectName("Label28");
+    Combo6_->setCurrentIndex(static_cast<int>(Effektivmethode::pangv2000) - 1);
+    auto* leiste = new QWidget;
+    auto* zeile = new QHBoxLayout(leiste);
+    zeile->setContentsMargins(0, 0, 0, 0);
+    auto* methode = new QLabel("Effektivzinssatzberechnungs&methode");
+    methode->setBuddy(Combo6_);
+    for (QWidget* element : std::initializer_list<QWidget*>{methode, Combo6_, Command5_})
+        zeile->addWidget(element);
+    zeile->addStretch();
+    for (QWidget* element : std::initializer_list<QWidget*>{Label26_, ezins_, Label28_})
+        zeile->addWidget(element);
+    EffektivzinsVerbergen();
+    return leiste;
+}
+
+void RegisterBerechnung::EffektivzinsZeigen(const std::string& ezins) {
+    ezins_->setText(QString::fromStdString(ezins));
+    for (QLabel* teil : {Label26_, ezins_, Label28_})
+        teil->show();
+}
+
+void RegisterBerechnung::EffektivzinsVerbergen() {
+    ezins_->clear();
+    for (QLabel* teil : {Label26_, ezins_, Label28_})
+        teil->hide();
+}
+
+Effektivmethode RegisterBerechnung::GewaehlteEffektivmethode() const {
+    return static_cast<Effektivmethode>(Combo6_->currentIndex() + 1);
+}
+
 void RegisterBerechnung::Zeigen(std::vector<Staffelsatz> loesung) {
     loesung_ = std::move(loesung);
+    Command5_->setEnabled(true);
     const Kontosummen summen = KontosummenBilden(loesung_);
     Gesamtzahlungssumme_->setText(Betragstext(summen.Gesamtzahlungssumme));
     EV_->setText(Betragstext(summen.Endvermögen));
@@ -94,6 +126,8 @@ void RegisterBerechnung::Zeigen(std::vector<Staffelsatz> loesung) {
 
 void RegisterBerechnung::Leeren() {
     loesung_.clear();
+    ezins_->clear();
+    Command5_->setEnabled(false);
     for (QLabel* summe : {Gesamtzahlungssumme_, EV_, Geszins_})
         summe->clear();
     AnsichtZeigen();

@@ -4,10 +4,12 @@
 #include <functional>
 #include <vector>
 
+#include "finmath/effektivmethode.h"
 #include "staffel/kontoansicht.h"
 
 class QComboBox;
 class QLabel;
+class QPushButton;
 
 namespace zinfolio {
 
@@ -29,9 +31,20 @@ class RegisterBerechnung : public QWidget {
     /// Goes back to the view "Kurzform".
     void KurzformWaehlen();
 
+    /// Shows a rate beside the totals; hides it again.
+    void EffektivzinsZeigen(const std::string& ezins);
+    void EffektivzinsVerbergen();
+
+    [[nodiscard]] const std::vector<Staffelsatz>& Loesung() const { return loesung_; }
+    [[nodiscard]] Effektivmethode GewaehlteEffektivmethode() const;
+
+  signals:
+    /// The user asks for the account's effective rate.
+    void effektivzinsVerlangt();
+
   private:
-    QLabel* Summe(const char* name);
     QWidget* Kopfzeile();
+    QWidget* Effektivzeile();
     void AnsichtZeigen();
 
     std::vector<Staffelsatz> loesung_;
@@ -40,6 +53,11 @@ class RegisterBerechnung : public QWidget {
     QLabel* Gesamtzahlungssumme_;
     QLabel* Geszins_;
     QLabel* EV_;
+    QLabel* ezins_;
+    QLabel* Label26_;
+    QLabel* Label28_;
+    QComboBox* Combo6_;
+    QPushButton* Command5_;
     Tabelle* Grid_;
 };
 

@@ -1,7 +1,6 @@
 #include "staffel/staffelberechnung.h"
 
 #include <cmath>
-#include <optional>
 #include <string>
 
 #include "staffel/rechenfehler.h"
@@ -12,7 +11,7 @@ namespace {
 /// What a row starts from: the conditions in force, the balance, the interest accrued before its own period,
 /// and the interest it credits.
 struct Zeilenanfang {
-    Konditionen kondition;
+    const Konditionen* kondition = nullptr;
     double kontostand = 0;
     double angefallen = 0;
     double gutschrift = 0;
@@ -26,22 +25,22 @@ Zeilenanfang Beginnen(std::span<const Staffelsatz> saetze, std::size_t i) {
             throw Rechenfehler("Die erste Zeile der Staffel ist keine Kondition.");
         }
         // Row 2, not yet calculated, stands in for the row before the first (wanted).
-        return {satz.kondition, 0, saetze.size() > 1 ? saetze[1].Kumulzins : 0, satz.Zinsgutschrift};
+        return {&satz.kondition, 0, saetze.size() > 1 ? saetze[1].Kumulzins : 0, satz.Zinsgutschrift};
     }
     const Staffelsatz& vorher = saetze[i - 1];
     switch (satz.Zahlungsart) {
         case zahlungsart::zahlung:
-            return {vorher.kondition, vorher.Kontostand + satz.Zahlbetrag, vorher.Kumulzins, 0};
+            return {&vorher.kondition, vorher.Kontostand + satz.Zahlbetrag, vorher.Kumulzins, 0};
         case zahlungsart::kondition:
-            return {satz.kondition, vorher.Kontostand, vorher.Kumulzins, satz.Zinsgutschrift};
+            return {&satz.kondition, vorher.Kontostand, vorher.Kumulzins, satz.Zinsgutschrift};
         default:
-            return {vorher.kondition, vorher.Kontostand + vorher.Kumulzins, 0, vorher.Kumulzins};
+            return {&vorher.kondition, vorher.Kontostand + vorher.Kumulzins, 0, vorher.Kumulzins};
     }
 }
 
 void Abschliessen(Staffelsatz& satz, const Zeilenanfang& anfang, const Periodenergebnis& periode) {
     if (satz.Zahlungsart == zahlungsart::kondition) satz.Zahlbetrag = 0;
-    satz.kondition = anfang.kondition;
+    satz.kondition = *anfang.kondition;
     satz.Kontostand = anfang.kontostand;
     satz.Zinsgutschrift = anfang.gutschrift;
     satz.Zinstage = periode.tage;
@@ -51,6 +50,13 @@ void Abschliessen(Staffelsatz& satz, const Zeilenanfang& anfang, const Periodene
 
 bool IstBekannt(const Staffelsatz& satz) {
     return satz.Zahlungsart >= zahlungsart::zahlung && satz.Zahlungsart <= zahlungsart::zinstermin;
+}
+
+/// The row's date. One that cannot be read is a fault of the day count, which `Tage30` answers with its own.
+Datum Stichtag(const Staffelsatz& satz, Verzinsungsmethode methode) {
+    if (const auto datum = Datum::Versuche(satz.Satzdatum.Roh())) return *datum;
+    if (ZaehltTage30(methode)) throw Tage30Fehler();
+    return DatumVon(satz);
 }
 
 [[noreturn]] void Ueberlauf(std::size_t i) {
@@ -71,21 +77,23 @@ Zinsbasen ZinsbasenWaehlen(double kontostand, const Konditionen& kondition) {
 }
 
 void Staffelberechnung(std::span<Staffelsatz> saetze, Verzinsungsmethode methode) {
-    std::optional<Datum> gelesen;
+    Datum naechstes;
+    bool gelesen = false;
     for (std::size_t i = 0; i < saetze.size(); ++i) {
         Staffelsatz& satz = saetze[i];
         if (!IstBekannt(satz)) {
-            gelesen.reset();
+            gelesen = false;
             continue;
         }
         const Zeilenanfang anfang = Beginnen(saetze, i);
-        const Zinsbasen basen = ZinsbasenWaehlen(anfang.kontostand, anfang.kondition);
-        const Datum von = gelesen ? *gelesen : DatumVon(satz);
-        const Datum bis = i + 1 < saetze.size() ? DatumVon(saetze[i + 1]) : von;
-        const Periodenergebnis periode = PeriodenZinsen(von, bis, methode, basen.erste, basen.zweite);
-        if (!std::isfinite(anfang.kontostand + anfang.angefallen + periode.zins)) Ueberlauf(i);
+        const Zinsbasen basen = ZinsbasenWaehlen(anfang.kontostand, *anfang.kondition);
+        const Datum von = gelesen ? naechstes : Stichtag(satz, methode);
+        naechstes = i + 1 < saetze.size() ? Stichtag(saetze[i + 1], methode) : von;
+        const Periodenergebnis periode = PeriodenZinsen(von, naechstes, methode, basen.erste, basen.zweite);
+        const double kumulzins = anfang.angefallen + periode.zins;
+        if (!std::isfinite(anfang.kontostand) || !std::isfinite(kumulzins)) Ueberlauf(i);
         Abschliessen(satz, anfang, periode);
-        gelesen = bis;
+        gelesen = true;
     }
 }
 

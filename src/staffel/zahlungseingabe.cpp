@@ -41,7 +41,7 @@ Datum PlusEinheiten(Datum datum, std::int64_t anzahl, Abstandseinheit einheit) {
 class Reihenschreiber {
   public:
     Reihenschreiber(const Zahlungseingabe& eingabe, std::vector<Staffelsatz>& ziel)
-        : eingabe_(eingabe), ziel_(ziel), abstand_(Anzahl(eingabe.Abstand, 0)) {}
+        : eingabe_(eingabe), ziel_(ziel) {}
 
     void Schreibe(std::string_view datumstext, double betrag) {
         if (ziel_.size() >= HoechstzahlSaetze) throw Rechenfehler("Mehr als 32767 Zahlungen.");
@@ -51,13 +51,19 @@ class Reihenschreiber {
     /// `anzahl` further payments behind the last one.
     void SchreibeFolgende(std::int64_t anzahl, double betrag) {
         for (std::int64_t i = 0; i < anzahl; ++i) {
-            if (!letztes_) letztes_ = anker_ = Datum::Lesen(eingabe_.Begdatum);
+            if (!letztes_) Beginnen();
             letztes_ = Naechstes(*letztes_);
             Schreibe(letztes_->Text(), betrag);
         }
     }
 
   private:
+    /// Reads what only a second payment needs.
+    void Beginnen() {
+        letztes_ = anker_ = Datum::Lesen(eingabe_.Begdatum);
+        abstand_ = Anzahl(eingabe_.Abstand, 0);
+    }
+
     [[nodiscard]] Datum Naechstes(Datum datum) const {
         const Datum naechstes = PlusEinheiten(datum, abstand_, eingabe_.Combo5);
         if (eingabe_.Combo5 != Abstandseinheit::monate) return naechstes;
@@ -68,7 +74,7 @@ class Reihenschreiber {
 
     const Zahlungseingabe& eingabe_;
     std::vector<Staffelsatz>& ziel_;
-    std::int64_t abstand_;
+    std::int64_t abstand_ = 0;
     std::optional<Datum> anker_;
     std::optional<Datum> letztes_;
 };

@@ -3,6 +3,7 @@
 #include <QCalendarWidget>
 #include <QComboBox>
 #include <QDialog>
+#include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QVBoxLayout>
@@ -27,6 +28,17 @@ QComboBox* NeueAuswahl(const char* name, std::span<const std::string_view> texte
     for (const std::string_view text : texte)
         auswahl->addItem(Anzeigetext(text));
     return auswahl;
+}
+
+QLabel* NeueKennzahl(const char* name, QWidget* eltern) {
+    auto* wert = new QLabel(eltern);
+    wert->setObjectName(QString::fromUtf8(name));
+    wert->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    QFont schrift = wert->font();
+    schrift.setPointSizeF(schrift.pointSizeF() * 1.5);
+    schrift.setBold(true);
+    wert->setFont(schrift);
+    return wert;
 }
 
 QHBoxLayout* Tastenzeile(std::initializer_list<QPushButton*> tasten) {

@@ -12,6 +12,7 @@
 
 class QComboBox;
 class QHBoxLayout;
+class QLabel;
 class QPushButton;
 class QString;
 class QWidget;
@@ -25,6 +26,9 @@ namespace zinfolio {
 /// A list to choose from, with the texts of the core.
 [[nodiscard]] QComboBox* NeueAuswahl(const char* name, std::span<const std::string_view> texte,
                                      QWidget* eltern);
+
+/// A figure shown large, which the user can select and copy.
+[[nodiscard]] QLabel* NeueKennzahl(const char* name, QWidget* eltern);
 
 /// Buttons side by side, at their natural width.
 [[nodiscard]] QHBoxLayout* Tastenzeile(std::initializer_list<QPushButton*> tasten);
