@@ -1,0 +1,122 @@
+"""Reads the includes below src/ and refuses one that points upwards, or that brings a foreign library into the core.
+
+A source includes the header of its own name first, so that compiling it shows that the header stands alone.
+
+Call: richtung.py SRC. Prints each offence as file:line and ends with status 1 if there is one.
+"""
+
+import re
+import sys
+from pathlib import Path
+
+# Which rooms a room may know besides itself, lowest room first. The forms lie in the folders of their core,
+# and are told apart by the name of their file.
+KERN = ("dateien", "dates", "staffel", "finmath", "sparen", "allround", "tabellen", "output")
+RAEUME = {
+    "dateien": (),
+    "dates": (),
+    "staffel": ("dateien", "dates"),
+    "finmath": ("dateien", "dates", "staffel"),
+    "sparen": ("dateien", "dates", "staffel", "finmath"),
+    "allround": ("dateien", "dates", "staffel", "finmath"),
+    "tabellen": ("dateien", "dates", "staffel", "finmath"),
+    "output": ("dateien", "dates", "staffel", "finmath"),
+    "stapel": KERN,
+    "ui": ("dateien", "dates", "staffel"),
+    "formen": KERN + ("ui",),
+    "shell": KERN + ("ui", "formen"),
+}
+FORMNAME = re.compile(r"form(?!at|el)|register")
+ORDNER_MIT_FORMEN = ("staffel", "sparen", "allround", "tabellen", "output")
+
+# Foreign headers, and the rooms that may include them.
+FREMD = (
+    (re.compile(r"Q[A-Z]|Qt[A-Z]|qcustomplot|ui_\w+\.h$|\w+\.moc$|moc_\w+\.cpp$"), ("ui", "formen", "shell")),
+    (re.compile(r"simdjson\.h$|CLI/|fmt/"), ("stapel",)),
+    (re.compile(r"(fcntl|pwd|unistd|sys/stat|sys/types|sys/file|sys/random)\.h$"), ("dateien", "stapel")),
+)
+STANDARDKOPF = re.compile(r"[a-z_0-9]+$")
+
+INCLUDE = re.compile(r'\s*#\s*include\s*(?:"([^"]+)"|<([^>]+)>)')
+ENDUNGEN = (".h", ".hpp", ".hxx", ".hh", ".cpp", ".cxx", ".cc")
+
+
+def raum(pfad):
+    """The room of a path relative to src/, or None."""
+    if len(pfad.parts) < 2:
+        return None
+    ordner = pfad.parts[0]
+    if ordner in ORDNER_MIT_FORMEN and FORMNAME.match(pfad.name):
+        return "formen"
+    return ordner if ordner in RAEUME and ordner != "formen" else None
+
+
+def fremdverstoss(von, kopf):
+    """What is wrong with including a header that is none of ours, or None."""
+    for muster, erlaubt in FREMD:
+        if muster.match(kopf):
+            return None if von in erlaubt else f"{von} darf {kopf} nicht kennen"
+    return None if STANDARDKOPF.match(kopf) else f"unbekannter fremder Kopf {kopf}"
+
+
+def eigener(src, datei, kopf):
+    """The path relative to src/ that a quoted include means: beside its file, else below src/. None if there is no such file."""
+    for ordner in (datei.parent, src):
+        ziel = (ordner / kopf).resolve()
+        if ziel.is_file() and ziel.is_relative_to(src):
+            return ziel.relative_to(src)
+    return None
+
+
+def verstoss(src, datei, von, zitiert, spitz):
+    """What is wrong with one include of a file in the room `von`, or None."""
+    ziel = eigener(src, datei, zitiert or spitz)
+    if ziel is None:
+        return fremdverstoss(von, zitiert or spitz)
+    nach = raum(ziel)
+    if nach is None:
+        return f"{ziel} liegt in keinem bekannten Raum"
+    return None if nach == von or nach in RAEUME[von] else f"{von} darf {nach} nicht kennen ({ziel})"
+
+
+def kopf_nicht_zuerst(datei, includes):
+    """What is wrong with the place of a source's own header among its includes, or None."""
+    eigen = datei.with_suffix(".h")
+    if datei.suffix != ".cpp" or not eigen.is_file():
+        return None
+    erster = includes[0][1] if includes else ""
+    return None if erster in (eigen.name, f"{datei.parent.name}/{eigen.name}") else f"schließt {eigen.name} nicht zuerst ein"
+
+
+def includes_von(datei):
+    """The includes of a file, as (line, quoted, angled); one of the last two is empty."""
+    zeilen = enumerate(datei.read_text(encoding="utf-8").splitlines(), 1)
+    return [(nummer, *treffer.groups("")) for nummer, zeile in zeilen if (treffer := INCLUDE.match(zeile))]
+
+
+def pruefe(src):
+    """All offences below a source folder, as lines of text."""
+    src = Path(src).resolve()
+    dateien = sorted(d for d in src.rglob("*") if d.suffix in ENDUNGEN)
+    if not dateien:
+        return [f"{src}: keine Quellen gefunden"]
+    gefunden = []
+    for datei in dateien:
+        pfad = datei.relative_to(src)
+        von = raum(pfad)
+        if von is None:
+            gefunden.append(f"{pfad}: liegt in keinem bekannten Raum")
+            continue
+        includes = includes_von(datei)
+        if grund := kopf_nicht_zuerst(datei, includes):
+            gefunden.append(f"{pfad}: {grund}")
+        for nummer, zitiert, spitz in includes:
+            if grund := verstoss(src, datei, von, zitiert, spitz):
+                gefunden.append(f"{pfad}:{nummer}: {grund}")
+    return gefunden
+
+
+if __name__ == "__main__":
+    verstoesse = pruefe(sys.argv[1])
+    print("\n".join(verstoesse) or "Alle Includes zeigen nach unten.")
+    sys.exit(1 if verstoesse else 0)
