@@ -31,10 +31,19 @@ class Datumsfehler : public std::runtime_error {
     return IstSchaltjahr(jahr) ? 366 : 365;
 }
 
+/// By month, 1 to 12.
+namespace kalendertafel {
+/// Days of the month in a common year.
+inline constexpr std::array<std::int8_t, 13> monatslaenge{0, 31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+/// Days before the month in a year that begins in March, which puts the leap day last.
+inline constexpr std::array<std::int16_t, 13> tageVorMonat{0,   306, 337, 0,   31,  61, 92,
+                                                           122, 153, 184, 214, 245, 275};
+}  // namespace kalendertafel
+
 /// Last day of a month (1 to 12), 28 to 31.
 [[nodiscard]] constexpr int Monatslaenge(int jahr, int monat) {
-    constexpr std::array<std::int8_t, 13> laengen{0, 31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-    return laengen[static_cast<std::size_t>(monat)] + (monat == 2 && IstSchaltjahr(jahr) ? 1 : 0);
+    return kalendertafel::monatslaenge[static_cast<std::size_t>(monat)] +
+           (monat == 2 && IstSchaltjahr(jahr) ? 1 : 0);
 }
 
 /// Digits of a date text, several bytes at a time: statements of tens of thousands of rows read two dates a
@@ -141,12 +150,9 @@ class Datum {
           tag_(static_cast<std::int8_t>(tag)) {}
 
     [[nodiscard]] static constexpr std::int32_t Zaehle(int jahr, int monat, int tag) {
-        // A year that begins in March puts the leap day last.
-        constexpr std::array<std::int16_t, 13> tageVorMonat{0,   306, 337, 0,   31,  61, 92,
-                                                            122, 153, 184, 214, 245, 275};
         const int maerzjahr = jahr - (monat <= 2 ? 1 : 0);
         return 365 * maerzjahr + maerzjahr / 4 - maerzjahr / 100 + maerzjahr / 400 +
-               tageVorMonat[static_cast<std::size_t>(monat)] + tag - 1;
+               kalendertafel::tageVorMonat[static_cast<std::size_t>(monat)] + tag - 1;
     }
 
     [[noreturn]] static void Unlesbar(std::string_view text);

@@ -11,6 +11,7 @@ namespace zinfolio {
 /// to 28.02.2008 is 358.
 [[nodiscard]] constexpr int Tage30(const Datum& von, const Datum& bis) {
     const auto tag = [](const Datum& datum) {
+        if (datum.Tag() < 28) return datum.Tag();
         const bool februarende = datum.Monat() == 2 && datum.Tag() == Monatslaenge(datum.Jahr(), 2);
         return datum.Tag() == 31 || februarende ? 30 : datum.Tag();
     };

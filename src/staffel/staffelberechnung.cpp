@@ -8,55 +8,77 @@
 namespace zinfolio {
 namespace {
 
-/// What a row starts from: the conditions in force, the balance, the interest accrued before its own period,
-/// and the interest it credits.
-struct Zeilenanfang {
+/// What a row hands on to the next one. The conditions are those of the row that set them, since all rows
+/// behind it hold copies.
+struct Stand {
     const Konditionen* kondition = nullptr;
     double kontostand = 0;
-    double angefallen = 0;
-    double gutschrift = 0;
+    double kumulzins = 0;
 };
 
-/// The start of row i. Its kind must be one of the three known ones.
-Zeilenanfang Beginnen(std::span<const Staffelsatz> saetze, std::size_t i) {
-    const Staffelsatz& satz = saetze[i];
-    if (i == 0) {
-        if (satz.Zahlungsart != zahlungsart::kondition) {
-            throw Rechenfehler("Die erste Zeile der Staffel ist keine Kondition.");
-        }
-        // Row 2, not yet calculated, stands in for the row before the first (wanted).
-        return {&satz.kondition, 0, saetze.size() > 1 ? saetze[1].Kumulzins : 0, satz.Zinsgutschrift};
-    }
-    const Staffelsatz& vorher = saetze[i - 1];
-    switch (satz.Zahlungsart) {
-        case zahlungsart::zahlung:
-            return {&vorher.kondition, vorher.Kontostand + satz.Zahlbetrag, vorher.Kumulzins, 0};
-        case zahlungsart::kondition:
-            return {&satz.kondition, vorher.Kontostand, vorher.Kumulzins, satz.Zinsgutschrift};
-        default:
-            return {&vorher.kondition, vorher.Kontostand + vorher.Kumulzins, 0, vorher.Kumulzins};
-    }
+/// What a row starts from: the conditions in force, its balance, the interest accrued before its own period,
+/// and the interest it credits.
+struct Zeilenanfang {
+    const Konditionen* kondition;
+    double kontostand;
+    double angefallen;
+    double gutschrift;
+};
+
+/// Before the first row nothing is booked; row 2, not yet calculated, stands in for what had accrued
+/// (wanted).
+Stand Anfangsstand(std::span<const Staffelsatz> saetze) {
+    return {nullptr, 0, saetze.size() > 1 ? saetze[1].Kumulzins : 0};
 }
 
-void Abschliessen(Staffelsatz& satz, const Zeilenanfang& anfang, const Periodenergebnis& periode) {
-    if (satz.Zahlungsart == zahlungsart::kondition) satz.Zahlbetrag = 0;
-    satz.kondition = *anfang.kondition;
+/// The start of a row of a known kind.
+Zeilenanfang Beginnen(const Staffelsatz& satz, const Stand& vorher) {
+    if (satz.Zahlungsart == zahlungsart::kondition) {
+        return {&satz.kondition, vorher.kontostand, vorher.kumulzins, satz.Zinsgutschrift};
+    }
+    if (!vorher.kondition) throw Rechenfehler("Die erste Zeile der Staffel ist keine Kondition.");
+    if (satz.Zahlungsart == zahlungsart::zahlung) {
+        return {vorher.kondition, vorher.kontostand + satz.Zahlbetrag, vorher.kumulzins, 0};
+    }
+    return {vorher.kondition, vorher.kontostand + vorher.kumulzins, 0, vorher.kumulzins};
+}
+
+Stand Abschliessen(Staffelsatz& satz, const Zeilenanfang& anfang, const Periodenergebnis& periode) {
+    if (satz.Zahlungsart == zahlungsart::kondition) {
+        satz.Zahlbetrag = 0;
+    } else {
+        satz.kondition = *anfang.kondition;
+    }
     satz.Kontostand = anfang.kontostand;
     satz.Zinsgutschrift = anfang.gutschrift;
     satz.Zinstage = periode.tage;
     satz.Periodenzins = periode.zins;
     satz.Kumulzins = anfang.angefallen + periode.zins;
+    return {anfang.kondition, satz.Kontostand, satz.Kumulzins};
 }
 
 bool IstBekannt(const Staffelsatz& satz) {
     return satz.Zahlungsart >= zahlungsart::zahlung && satz.Zahlungsart <= zahlungsart::zinstermin;
 }
 
-/// The row's date. One that cannot be read is a fault of the day count, which `Tage30` answers with its own.
-Datum Stichtag(const Staffelsatz& satz, Verzinsungsmethode methode) {
-    if (const auto datum = Datum::Versuche(satz.Satzdatum.Roh())) return *datum;
+[[noreturn]] void Unlesbar(const Staffelsatz& satz, Verzinsungsmethode methode) {
+    // A date that Tage30 cannot read has a fault of its own.
     if (ZaehltTage30(methode)) throw Tage30Fehler();
-    return DatumVon(satz);
+    throw Datumsfehler("Eine Zeile der Staffel hat kein Datum: »" + std::string(satz.Satzdatum.Roh()) + "«.");
+}
+
+/// The row's date.
+inline Datum Stichtag(const Staffelsatz& satz, Verzinsungsmethode methode) {
+    const auto datum = Datum::Versuche(satz.Satzdatum.Roh());
+    if (!datum) Unlesbar(satz, methode);
+    return *datum;
+}
+
+/// The end of a row's period: the date of the row behind it, for the last row its own.
+inline Datum Periodenende(std::span<const Staffelsatz> saetze, std::size_t i, const Datum& von,
+                          Verzinsungsmethode methode) {
+    if (i + 1 == saetze.size() || saetze[i + 1].Satzdatum == saetze[i].Satzdatum) return von;
+    return Stichtag(saetze[i + 1], methode);
 }
 
 [[noreturn]] void Ueberlauf(std::size_t i) {
@@ -77,22 +99,24 @@ Zinsbasen ZinsbasenWaehlen(double kontostand, const Konditionen& kondition) {
 }
 
 void Staffelberechnung(std::span<Staffelsatz> saetze, Verzinsungsmethode methode) {
+    Stand stand = Anfangsstand(saetze);
     Datum naechstes;
     bool gelesen = false;
     for (std::size_t i = 0; i < saetze.size(); ++i) {
         Staffelsatz& satz = saetze[i];
         if (!IstBekannt(satz)) {
+            stand = {&satz.kondition, satz.Kontostand, satz.Kumulzins};
             gelesen = false;
             continue;
         }
-        const Zeilenanfang anfang = Beginnen(saetze, i);
+        const Zeilenanfang anfang = Beginnen(satz, stand);
         const Zinsbasen basen = ZinsbasenWaehlen(anfang.kontostand, *anfang.kondition);
         const Datum von = gelesen ? naechstes : Stichtag(satz, methode);
-        naechstes = i + 1 < saetze.size() ? Stichtag(saetze[i + 1], methode) : von;
+        naechstes = Periodenende(saetze, i, von, methode);
         const Periodenergebnis periode = PeriodenZinsen(von, naechstes, methode, basen.erste, basen.zweite);
-        const double kumulzins = anfang.angefallen + periode.zins;
-        if (!std::isfinite(anfang.kontostand) || !std::isfinite(kumulzins)) Ueberlauf(i);
-        Abschliessen(satz, anfang, periode);
+        if (!std::isfinite(anfang.kontostand) || !std::isfinite(anfang.angefallen + periode.zins))
+            Ueberlauf(i);
+        stand = Abschliessen(satz, anfang, periode);
         gelesen = true;
     }
 }
