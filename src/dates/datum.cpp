@@ -100,6 +100,8 @@ double Datumsschluessel(std::string_view datumstext) {
 }
 
 std::string Schluesseltext(std::string_view datumstext) {
+    const std::string_view t = datumstext;
+    if (t.size() == 10) return {t[6], t[7], t[8], t[9], t[3], t[4], t[0], t[1]};
     constexpr std::array<std::pair<std::size_t, std::size_t>, 3> teile{{{6, 4}, {3, 2}, {0, 2}}};
     std::string schluessel;
     for (const auto& [von, laenge] : teile) {

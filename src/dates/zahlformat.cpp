@@ -66,6 +66,31 @@ int Ziffernzahl(const Dezimalzahl& zahl) {
     return static_cast<int>(groesser - zehner.begin()) + zahl.nullen;
 }
 
+/// An amount of currency, the commonest pattern, without a step for each digit: cents, then groups of three.
+std::string Betragstext(std::uint64_t cents, bool minus) {
+    std::array<char, 24> puffer;  // NOLINT(cppcoreguidelines-pro-type-member-init): filled from its end
+    char* const ende = puffer.data() + puffer.size();
+    char* zeichen = ende;
+    const auto setze = [&](std::uint64_t ziffer) { *--zeichen = static_cast<char>('0' + ziffer); };
+    setze(cents % 10);
+    setze(cents / 10 % 10);
+    *--zeichen = ',';
+    std::uint64_t rest = cents / 100;
+    for (; rest >= 1000; rest /= 1000) {
+        const std::uint64_t gruppe = rest % 1000;
+        setze(gruppe % 10);
+        setze(gruppe / 10 % 10);
+        setze(gruppe / 100);
+        *--zeichen = '.';
+    }
+    do {
+        setze(rest % 10);
+        rest /= 10;
+    } while (rest > 0);
+    if (minus) *--zeichen = '-';
+    return {zeichen, ende};
+}
+
 /// Writes the digits from the last to the first.
 std::string Zusammensetzen(Dezimalzahl zahl, const Zahlmuster& muster, bool minus) {
     const int vorziffern = std::max({Ziffernzahl(zahl) - muster.nachkommastellen, muster.mindestziffern, 0});
@@ -73,11 +98,15 @@ std::string Zusammensetzen(Dezimalzahl zahl, const Zahlmuster& muster, bool minu
     const int hinten = muster.nachkommastellen > 0 ? 1 + muster.nachkommastellen : 0;
     std::string text(static_cast<std::size_t>((minus ? 1 : 0) + vorziffern + gruppen + hinten), '-');
     auto zeichen = text.end();
+    auto ziffern = static_cast<std::uint64_t>(zahl.ziffern);
     const auto setze = [&] {
-        const bool angehaengt = zahl.nullen > 0;
-        *--zeichen = angehaengt ? '0' : static_cast<char>('0' + zahl.ziffern % 10);
-        zahl.nullen -= angehaengt ? 1 : 0;
-        zahl.ziffern /= angehaengt ? 1 : 10;
+        if (zahl.nullen > 0) {
+            *--zeichen = '0';
+            --zahl.nullen;
+            return;
+        }
+        *--zeichen = static_cast<char>('0' + ziffern % 10);
+        ziffern /= 10;
     };
     for (int platz = 0; platz < muster.nachkommastellen; ++platz)
         setze();
@@ -96,7 +125,9 @@ std::string Format(double wert, const Zahlmuster& muster) {
     const double betrag = std::fabs(wert);
     const auto kurz = Kurzweg(betrag, muster.nachkommastellen);
     const Dezimalzahl zahl = kurz ? *kurz : UeberText(betrag, muster.nachkommastellen);
-    return Zusammensetzen(zahl, muster, wert < 0 && zahl.ziffern != 0);
+    const bool minus = wert < 0 && zahl.ziffern != 0;
+    if (kurz && muster == betragsmuster) return Betragstext(static_cast<std::uint64_t>(zahl.ziffern), minus);
+    return Zusammensetzen(zahl, muster, minus);
 }
 
 std::string Format(std::string_view zahltext, const Zahlmuster& muster) {

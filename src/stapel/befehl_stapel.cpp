@@ -4,6 +4,7 @@
 #include "stapel/ausgangsstatus.h"
 #include "stapel/befehle.h"
 #include "stapel/kanal.h"
+#include "stapel/speicher.h"
 #include "stapel/stapelverarbeitung.h"
 
 namespace zinfolio {
@@ -23,6 +24,7 @@ void AusgebenOderEnden(std::string_view text) {
 }  // namespace
 
 int BefehlStapel(unsigned kerne) {
+    GrosseSeitenErbitten();
     const auto eingabe = [](char* ziel, std::size_t platz) { return KanalLesen(STDIN_FILENO, ziel, platz); };
     return StapelRechnen(eingabe, AusgebenOderEnden, kerne) ? status::fertig : status::abgelehnt;
 }

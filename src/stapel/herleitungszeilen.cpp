@@ -1,5 +1,7 @@
 #include "stapel/herleitungszeilen.h"
 
+#include <string>
+
 #include "finmath/herleitung.h"
 
 namespace zinfolio {
@@ -8,11 +10,17 @@ void HerleitungSchreiben(std::string_view name, std::span<const Ergebnissatz> ze
                          JsonSchreiber& ergebnis) {
     ergebnis.Name(name);
     ergebnis.ListeAuf();
+    std::string zeile;
     for (const Ergebnissatz& satz : zeilen) {
-        ergebnis.ListeAuf();
-        for (const Herleitungszelle zelle : Herleitungszellen())
-            ergebnis.Wert(std::string_view(zelle(satz)));
-        ergebnis.ListeZu();
+        // Dates and numbers: nothing in them needs an escape.
+        zeile = "[";
+        for (const Herleitungszelle zelle : Herleitungszellen()) {
+            zeile += '"';
+            zeile += zelle(satz);
+            zeile += "\",";
+        }
+        zeile.back() = ']';
+        ergebnis.Fertiges(zeile);
     }
     ergebnis.ListeZu();
 }

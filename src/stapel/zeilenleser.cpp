@@ -1,6 +1,7 @@
 #include "stapel/zeilenleser.h"
 
 #include <algorithm>
+#include <cstring>
 
 #include "stapel/jsonleser.h"
 
@@ -23,9 +24,8 @@ bool Zeilenleser::Naechster(Zeilenblock& block) {
         const std::size_t gelesen = quelle(puffer.data() + bisher, lesemenge);
         puffer.resize(bisher + gelesen);
         zuEnde = gelesen == 0;
-        const std::size_t zeilenende = std::string_view(puffer).substr(bisher).rfind('\n');
-        if (zeilenende != std::string_view::npos) {
-            block.laenge = bisher + zeilenende + 1;
+        if (const auto* zeilenende = ::memrchr(puffer.data() + bisher, '\n', gelesen)) {
+            block.laenge = static_cast<std::size_t>(static_cast<const char*>(zeilenende) - puffer.data()) + 1;
         } else if (puffer.size() > hoechsteZeilenlaenge) {
             puffer.resize(hoechsteZeilenlaenge + 1);
         }

@@ -33,7 +33,7 @@ ORDNER_MIT_FORMEN = ("staffel", "sparen", "allround", "tabellen", "output")
 FREMD = (
     (re.compile(r"Q[A-Z]|Qt[A-Z]|qcustomplot|ui_\w+\.h$|\w+\.moc$|moc_\w+\.cpp$"), ("ui", "formen", "shell")),
     (re.compile(r"simdjson\.h$|CLI/|fmt/"), ("stapel",)),
-    (re.compile(r"(fcntl|pwd|unistd|sys/stat|sys/types|sys/file|sys/random)\.h$"), ("dateien", "stapel")),
+    (re.compile(r"(fcntl|pwd|unistd|sys/stat|sys/types|sys/file|sys/mman|sys/random|malloc)\.h$"), ("dateien", "stapel")),
 )
 STANDARDKOPF = re.compile(r"[a-z_0-9]+$")
 
