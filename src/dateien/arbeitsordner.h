@@ -14,7 +14,7 @@ struct Ordnerangaben {
 };
 
 /// The rule of `Arbeitsordner`, apart from the machine. Relative entries of the environment count as not set,
-/// as the XDG base directory specification wants it.
+/// as the XDG base directory standard wants it.
 [[nodiscard]] std::filesystem::path ArbeitsordnerAus(const Ordnerangaben& angaben);
 
 /// The folder of all working files: "Fiskaris" under $XDG_CONFIG_HOME, else under ~/.config, else in the

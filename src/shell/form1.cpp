@@ -13,7 +13,7 @@
 #include "shell/programmstart.h"
 #include "shell/rechnertaste.h"
 #include "staffel/form48000.h"
-#include "ui/formbausteine.h"
+#include "ui/bausteine.h"
 #include "ui/geschuetzt.h"
 #include "ui/symbol.h"
 

@@ -122,7 +122,7 @@ TEST_P(BundesschatzbriefTest, RenditeJeHaltejahr) {
     }
 }
 
-// Deutsche Finanzagentur, page "Bundesschatzbriefe", table of issue 2011/11 Typ A.
+// Deutsche Finanzagentur, page "Bundesschatzbriefe", table of "Ausgabe 2011/11 Typ A".
 INSTANTIATE_TEST_SUITE_P(Ausgabe2011elf, BundesschatzbriefTest,
                          testing::Values(Schatzbrief{
                              {0.75, 1, 1.5, 2, 2.25, 2.75},

@@ -26,7 +26,7 @@ RAEUME = {
     "formen": KERN + ("ui",),
     "shell": KERN + ("ui", "formen"),
 }
-FORMNAME = re.compile(r"form(?!at|el)|register")
+FORMNAME = re.compile(r"form(?!at|el)")
 ORDNER_MIT_FORMEN = ("staffel", "sparen", "allround", "tabellen", "output")
 
 # Foreign headers, and the rooms that may include them.

@@ -1,11 +1,11 @@
-#include "staffel/registereffektivzins.h"
+#include "staffel/form48000effektivzins.h"
 
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 #include "finmath/herleitung.h"
-#include "ui/formbausteine.h"
+#include "ui/bausteine.h"
 #include "ui/meldungsfenster.h"
 #include "ui/tabelle.h"
 

@@ -1,4 +1,4 @@
-#include "staffel/registerberechnung.h"
+#include "staffel/form48000berechnung.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -7,7 +7,7 @@
 #include <QVBoxLayout>
 
 #include "dates/zahlformat.h"
-#include "ui/formbausteine.h"
+#include "ui/bausteine.h"
 #include "ui/meldungsfenster.h"
 #include "ui/tabelle.h"
 

@@ -1,4 +1,4 @@
-#include "staffel/registerzinssaetze.h"
+#include "staffel/form48000zinssaetze.h"
 
 #include <QButtonGroup>
 #include <QGroupBox>
@@ -13,7 +13,7 @@
 #include "staffel/listenzeile.h"
 #include "staffel/meldungen.h"
 #include "staffel/staffelsortierung.h"
-#include "ui/formbausteine.h"
+#include "ui/bausteine.h"
 #include "ui/geschuetzt.h"
 #include "ui/meldungsfenster.h"
 

@@ -1,11 +1,11 @@
-#include "staffel/registerzinsverrechnung.h"
+#include "staffel/form48000zinsverrechnung.h"
 
 #include <QComboBox>
 #include <QVBoxLayout>
 
+#include "ui/bausteine.h"
 #include "ui/datumsfeld.h"
 #include "ui/feldraster.h"
-#include "ui/formbausteine.h"
 
 namespace zinfolio {
 

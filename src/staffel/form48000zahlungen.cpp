@@ -1,4 +1,4 @@
-#include "staffel/registerzahlungen.h"
+#include "staffel/form48000zahlungen.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -13,8 +13,8 @@
 #include "staffel/listenzeile.h"
 #include "staffel/meldungen.h"
 #include "staffel/staffelsortierung.h"
+#include "ui/bausteine.h"
 #include "ui/datumsfeld.h"
-#include "ui/formbausteine.h"
 #include "ui/geschuetzt.h"
 #include "ui/meldungsfenster.h"
 

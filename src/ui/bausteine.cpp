@@ -1,4 +1,4 @@
-#include "ui/formbausteine.h"
+#include "ui/bausteine.h"
 
 #include <QCalendarWidget>
 #include <QComboBox>
