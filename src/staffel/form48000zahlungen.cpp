@@ -73,6 +73,11 @@ RegisterZahlungen::RegisterZahlungen(const Satzdatei<Staffelsatz>& datei, QWidge
     anordnung->setSpacing(18);
     anordnung->addWidget(Eingabeseite());
     anordnung->addWidget(rechts_, 1);
+    TabfolgeSetzen(
+        *this,
+        {"Begdatum", "Betrag",     "Beschreibung", "Ratzahl",        "Abstand",   "Combo5",     "Check2",
+         "Check1",   "Stufen",     "Delta",        "Command1",       "Speichern", "übernehmen", "verwerfen",
+         "List1",    "Bearbeiten", "Löschen",      "Datumsortieren", "Grid2",     "Command3",   "Command4"});
     Verdrahten();
     Zeigen({});
 }
@@ -201,6 +206,7 @@ void RegisterZahlungen::Leeren() {
     geaendert_.reset();
     VorschauVerwerfen();
     Zeigen({});
+    felder_.Feld("Begdatum")->setFocus();
 }
 
 bool RegisterZahlungen::Pruefen(Zahlungseingabe& eingabe) {

@@ -82,6 +82,9 @@ RegisterZinssaetze::RegisterZinssaetze(const Satzdatei<Staffelsatz>& datei, QWid
     anordnung->addWidget(Eingabeseite());
     listenseite_ = Listenseite();
     anordnung->addWidget(listenseite_, 1);
+    TabfolgeSetzen(*this, {"Gültigdatum", "Gutzins1", "Gutzins2", "Guthabenlinie", "Kreditzins1",
+                           "Kreditzins2", "Kreditlinie", "Option1(1)", "Option1(2)", "speichern2",
+                           "Änderungen", "verwerfen2", "List2", "Bearbeiten2", "Löschen2"});
     liste_.ordnen = SortiereKonditionen;
     liste_.nachLesen = [this] { angenommen_ = true; };
     for (const char* name : {"Gutzins1", "Gutzins2", "Kreditzins1", "Kreditzins2"}) {

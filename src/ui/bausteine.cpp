@@ -66,9 +66,20 @@ QWidget* Rollbar(QWidget* seite) {
     return rahmen;
 }
 
+void TabfolgeSetzen(const QWidget& form, std::initializer_list<const char*> namen) {
+    QWidget* vorher = nullptr;
+    for (const char* name : namen) {
+        auto* element = form.findChild<QWidget*>(QString::fromUtf8(name));
+        if (vorher) QWidget::setTabOrder(vorher, element);
+        vorher = element;
+    }
+}
+
 void Kalendertaste(QPushButton& taste) {
+    taste.setFocusPolicy(Qt::ClickFocus);
+    taste.setShortcut(Qt::Key_F4);
     taste.setIcon(Symbol("kalender"));
-    taste.setToolTip("Datum im Kalender wählen");
+    taste.setToolTip("Datum im Kalender wählen (F4)");
     taste.setAccessibleName("Kalender");
 }
 

@@ -39,7 +39,10 @@ namespace zinfolio {
 /// A page that scrolls where the window is too small for it.
 [[nodiscard]] QWidget* Rollbar(QWidget* seite);
 
-/// Makes a button the calendar button behind a date field.
+/// Makes Tab go through the children of `form` with these names, in this order.
+void TabfolgeSetzen(const QWidget& form, std::initializer_list<const char*> namen);
+
+/// Makes a button the calendar button behind a date field: by click or F4, passed over by Tab and Enter.
 void Kalendertaste(QPushButton& taste);
 
 /// Opens the month calendar (`mview`) below a widget and waits for a date; nothing where it is closed without

@@ -49,10 +49,11 @@ bool Datumsfeld::focusNextPrevChild(bool vorwaerts) {
 }
 
 bool Datumsfeld::WuerdeVerlassen(QObject* ziel, const QEvent& ereignis) const {
+    if (ziel == begleiter_) return false;
     if (ereignis.type() == QEvent::Shortcut) return true;
     if (ereignis.type() != QEvent::MouseButtonPress) return false;
     const auto* fenster = qobject_cast<QWidget*>(ziel);
-    return fenster && fenster != this && fenster != begleiter_ && fenster->window() == window();
+    return fenster && fenster != this && fenster->window() == window();
 }
 
 bool Datumsfeld::eventFilter(QObject* ziel, QEvent* ereignis) {

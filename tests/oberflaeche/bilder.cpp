@@ -71,6 +71,9 @@ void BilderDesKontos(const QDir& ordner) {
     Bild(form, ordner, "zinssaetze");
     Waehle(form, Form48000::berechnung);
     Bild(form, ordner, "kontoauszug");
+    Klicke(form, "Command5");
+    Bild(form, ordner, "effektivzins");
+    Klicke(form, "Command14");
     Finde<QComboBox>(&form, "Combo4")->setCurrentText("Detailansicht 3");
     Bild(form, ordner, "detailansicht3");
     Waehle(form, Form48000::zahlungen);

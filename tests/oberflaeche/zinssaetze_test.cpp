@@ -48,6 +48,17 @@ class ZinssaetzeTest : public QObject {
         QCOMPARE(Fokus(), "Gültigdatum");
     }
 
+    void enterFuehrtDurchDieFelder() {
+        QStringList weg;
+        for (int i = 0; i < 7; ++i) {
+            weg << Fokus();
+            Druecke(Qt::Key_Return);
+        }
+        QCOMPARE(weg, (QStringList{"Gültigdatum", "Gutzins1", "Gutzins2", "Guthabenlinie", "Kreditzins1",
+                                   "Kreditzins2", "Kreditlinie"}));
+        QCOMPARE(Fokus(), "Option1(1)");
+    }
+
     void vollstaendigeKonditionWirdOhneMeldungAufgenommen() {
         const Zeuge zeuge;
         Finde<QRadioButton>(form_.get(), "Option1(2)")->click();
