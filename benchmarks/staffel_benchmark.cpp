@@ -15,8 +15,8 @@ using namespace zinfolio;
 
 constexpr int zeilen = 30'000;
 
-/// One condition and `anzahl` payments, three a day from 2000 on, in order of date.
-std::vector<Staffelsatz> Staffel(int anzahl) {
+/// One condition and `anzahl` payments, so many a day from 2000 on, in order of date.
+std::vector<Staffelsatz> Staffel(int anzahl, int jeTag = 3) {
     std::vector<Staffelsatz> saetze{Konditionssatz("01.01.2000", {.Gutzins1 = 0.5F,
                                                                   .Gutzins2 = 1.25F,
                                                                   .Guthabenlinie = 10'000,
@@ -28,14 +28,14 @@ std::vector<Staffelsatz> Staffel(int anzahl) {
     const Datum anfang = *Datum::Aus(2000, 1, 1);
     for (int i = 0; i < anzahl; ++i) {
         const double betrag = (static_cast<int>(zufall() % 200'001) - 100'000) / 100.0;
-        saetze.push_back(Zahlungssatz(PlusTage(anfang, i / 3).Text(), betrag, "Buchung"));
+        saetze.push_back(Zahlungssatz(PlusTage(anfang, i / jeTag).Text(), betrag, "Buchung"));
     }
     return saetze;
 }
 
 void Berechnung(benchmark::State& zustand) {
     const auto methode = static_cast<Verzinsungsmethode>(zustand.range(0));
-    std::vector<Staffelsatz> saetze = Staffel(zeilen - 1);
+    std::vector<Staffelsatz> saetze = Staffel(zeilen - 1, static_cast<int>(zustand.range(1)));
     for (auto _ : zustand) {
         Staffelberechnung(saetze, methode);
         benchmark::DoNotOptimize(saetze.data());
@@ -43,7 +43,7 @@ void Berechnung(benchmark::State& zustand) {
     zustand.counters["ns_je_Zeile"] = benchmark::Counter(
         zeilen / 1e9, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
 }
-BENCHMARK(Berechnung)->DenseRange(0, 4);
+BENCHMARK(Berechnung)->ArgNames({"methode", "je_Tag"})->ArgsProduct({{0, 1, 2, 3, 4}, {3, 1}});
 
 std::vector<Staffelsatz> Durcheinander() {
     std::vector<Staffelsatz> saetze = Staffel(32'767);

@@ -43,16 +43,11 @@ Datum Datum::AusTageszahl(std::int64_t tageszahl) {
 }
 
 std::string Datum::Text() const {
-    std::string text = "00.00.0000";
-    const auto setze = [&](std::size_t letzte, int wert) {
-        for (std::size_t stelle = letzte; wert > 0; --stelle, wert /= 10) {
-            text[stelle] = static_cast<char>('0' + wert % 10);
-        }
-    };
-    setze(1, tag_);
-    setze(4, monat_);
-    setze(9, jahr_);
-    return text;
+    const auto ziffer = [](int wert) { return static_cast<char>('0' + wert % 10); };
+    return {ziffer(tag_ / 10),    ziffer(tag_),        '.',
+            ziffer(monat_ / 10),  ziffer(monat_),      '.',
+            ziffer(jahr_ / 1000), ziffer(jahr_ / 100), ziffer(jahr_ / 10),
+            ziffer(jahr_)};
 }
 
 Datum PlusTage(Datum datum, std::int64_t tage) {
