@@ -2,6 +2,7 @@
 
 #include <array>
 #include <charconv>
+#include <cstring>
 #include <utility>
 
 #include "dates/textteile.h"
@@ -43,11 +44,15 @@ Datum Datum::AusTageszahl(std::int64_t tageszahl) {
 }
 
 std::string Datum::Text() const {
-    const auto ziffer = [](int wert) { return static_cast<char>('0' + wert % 10); };
-    return {ziffer(tag_ / 10),    ziffer(tag_),        '.',
-            ziffer(monat_ / 10),  ziffer(monat_),      '.',
-            ziffer(jahr_ / 1000), ziffer(jahr_ / 100), ziffer(jahr_ / 10),
-            ziffer(jahr_)};
+    std::string text = "00.00.0000";
+    const auto setze = [&](std::size_t stelle, int wert) {
+        std::memcpy(text.data() + stelle, &ziffernpaare[2 * static_cast<std::size_t>(wert)], 2);
+    };
+    setze(0, tag_);
+    setze(3, monat_);
+    setze(6, jahr_ / 100);
+    setze(8, jahr_ % 100);
+    return text;
 }
 
 Datum PlusTage(Datum datum, std::int64_t tage) {

@@ -1,6 +1,7 @@
 #pragma once
 // Small views into a text.
 
+#include <array>
 #include <string_view>
 
 namespace zinfolio {
@@ -16,6 +17,16 @@ namespace zinfolio {
 [[nodiscard]] constexpr bool IstZiffer(char zeichen) {
     return zeichen >= '0' && zeichen <= '9';
 }
+
+/// The two digits of 0 to 99, one pair behind the other, for writing numbers two digits at a time.
+inline constexpr auto ziffernpaare = [] {
+    std::array<char, 200> paare{};
+    for (std::size_t i = 0; i < 100; ++i) {
+        paare[2 * i] = static_cast<char>('0' + i / 10);
+        paare[2 * i + 1] = static_cast<char>('0' + i % 10);
+    }
+    return paare;
+}();
 
 /// Characters of a UTF-8 text (bytes that continue a character do not count).
 [[nodiscard]] constexpr std::size_t Zeichenzahl(std::string_view utf8) {

@@ -51,13 +51,8 @@ Ergebnissatz Ergebnissatz::Lesen(std::span<const std::byte, Satzlaenge> quelle) 
 }
 
 Reihensatz Reihenzeile(std::string_view datumstext, double betrag) {
-    const Datum datum = Datum::Lesen(datumstext);
-    Reihensatz satz;
+    Reihensatz satz = Reihenzeile(Datum::Lesen(datumstext), betrag);
     satz.Reihendatum = Festtext<10>::AusWindows1252(datumstext);
-    satz.Tag = static_cast<std::int16_t>(datum.Tag());
-    satz.Monat = static_cast<std::int16_t>(datum.Monat());
-    satz.Jahr = static_cast<std::int16_t>(datum.Jahr());
-    satz.Reihenbetrag = betrag;
     satz.Reihenschluessel = Festtext<10>::AusWindows1252(Schluesseltext(datumstext));
     return satz;
 }

@@ -68,6 +68,16 @@ static_assert(Ergebnissatz::Satzlaenge == 46);
 /// A row of a series from a `Datumstext`; a text that is no date is a `Datumsfehler`.
 [[nodiscard]] Reihensatz Reihenzeile(std::string_view datumstext, double betrag);
 
+/// The same of a date, without the two texts, which valuation does not read.
+[[nodiscard]] inline Reihensatz Reihenzeile(const Datum& datum, double betrag) {
+    Reihensatz satz;
+    satz.Tag = static_cast<std::int16_t>(datum.Tag());
+    satz.Monat = static_cast<std::int16_t>(datum.Monat());
+    satz.Jahr = static_cast<std::int16_t>(datum.Jahr());
+    satz.Reihenbetrag = betrag;
+    return satz;
+}
+
 /// The fault of a row whose numbers are no day.
 [[noreturn]] void KeinReihendatum(const Reihensatz& satz);
 

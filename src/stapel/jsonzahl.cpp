@@ -1,11 +1,12 @@
 #include "stapel/jsonzahl.h"
 
 #include <algorithm>
-#include <array>
 #include <bit>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
+
+#include "dates/textteile.h"
 
 namespace zinfolio {
 namespace {
@@ -16,15 +17,6 @@ constexpr double centgrenze = 1e13;
 
 /// Round amounts from here on are shorter with an exponent: 100000 is 1e+05.
 constexpr std::uint64_t rundeCents = 10'000'000;
-
-constexpr auto ziffernpaare = [] {
-    std::array<char, 200> paare{};
-    for (std::size_t i = 0; i < 100; ++i) {
-        paare[2 * i] = static_cast<char>('0' + i / 10);
-        paare[2 * i + 1] = static_cast<char>('0' + i % 10);
-    }
-    return paare;
-}();
 
 std::size_t Stellenzahl(std::uint64_t zahl) {
     std::size_t stellen = 1;

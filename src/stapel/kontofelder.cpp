@@ -19,6 +19,17 @@ constexpr auto zahlungsfelder =
     Objektfelder(Pflichtfeld<&Zahlung::Datum>("Datum"), Pflichtfeld<&Zahlung::Betrag>("Betrag"),
                  Kannfeld<&Zahlung::Text>("Text"));
 
+/// The same fields where only the date's numbers are wanted.
+struct Reihenzahlung {
+    zinfolio::Datum Datum;
+    double Betrag = 0;
+    std::string_view Text;
+};
+
+constexpr auto reihenzahlungsfelder =
+    Objektfelder(Pflichtfeld<&Reihenzahlung::Datum>("Datum"), Pflichtfeld<&Reihenzahlung::Betrag>("Betrag"),
+                 Kannfeld<&Reihenzahlung::Text>("Text"));
+
 struct Konditionszeile {
     Datumstext Datum;
     float Gutzins1 = 0;
@@ -68,9 +79,9 @@ void FeldLesen(JsonWert& wert, Konditionsliste& ziel) {
 
 void FeldLesen(JsonWert& wert, Reihenliste& ziel) {
     wert.Elemente([&](JsonWert& element) {
-        Zahlung zahlung;
-        ObjektLesen(element, zahlungsfelder, zahlung);
-        ziel.saetze.push_back(Reihenzeile(zahlung.Datum.text, zahlung.Betrag));
+        Reihenzahlung zahlung;
+        ObjektLesen(element, reihenzahlungsfelder, zahlung);
+        ziel.saetze.push_back(Reihenzeile(zahlung.Datum, zahlung.Betrag));
     });
 }
 

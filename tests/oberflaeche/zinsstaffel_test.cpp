@@ -151,6 +151,17 @@ class ZinsstaffelTest : public QObject {
         QCOMPARE(Summe("EV"), "15.086,53");
     }
 
+    void nocheinmalGewaehltesRegisterRechnetNeu() {
+        Beispielkonto();
+        Waehle(*form_, Form48000::berechnung);
+        const Kontodateien dateien(ordner_->Pfad());
+        auto zahlungen = dateien.Zahlungen().Lesen();
+        zahlungen.push_back(Zahlungssatz("31.03.2007", 13.47, ""));
+        dateien.Zahlungen().Schreiben(zahlungen);
+        Waehle(*form_, Form48000::berechnung);
+        QCOMPARE(Summe("EV"), "15.100,00");
+    }
+
     void verlassenEinesRegistersFuehrtZurKurzform() {
         Beispielkonto();
         Waehle(*form_, Form48000::berechnung);
