@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "dateien/satzdatei.h"
-#include "staffel/kontoansicht.h"
 #include "staffel/satzliste.h"
 #include "ui/tabelle.h"
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QGridLayout>
-#include <functional>
 #include <string>
 #include <string_view>
 #include <utility>
