@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <array>
-#include <cstddef>
-#include <optional>
+
+#include "dateien/utf8.h"
 
 namespace zinfolio {
 namespace {
@@ -16,69 +16,15 @@ constexpr std::array<char32_t, 32> AbByte80{
     0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,  // 98: ˜ ™ š › œ   ž Ÿ
 };
 
-struct Zeichen {
-    char32_t codepunkt;
-    std::size_t laenge;
-};
+}  // namespace
 
-constexpr unsigned Byte(char c) {
-    return static_cast<unsigned char>(c);
-}
-
-// Length of the sequence that a leading byte announces, and the least code point that needs so many bytes.
-struct Vorspann {
-    std::size_t laenge;
-    char32_t mindestens;
-    unsigned nutzbits;
-};
-
-constexpr std::optional<Vorspann> VorspannAus(unsigned byte) {
-    if (byte < 0x80) return Vorspann{1, 0, 0x7F};
-    if ((byte & 0xE0U) == 0xC0) return Vorspann{2, 0x80, 0x1F};
-    if ((byte & 0xF0U) == 0xE0) return Vorspann{3, 0x800, 0x0F};
-    if ((byte & 0xF8U) == 0xF0) return Vorspann{4, 0x10000, 0x07};
-    return std::nullopt;
-}
-
-constexpr bool IstZeichen(char32_t codepunkt) {
-    const bool ersatzbereich = codepunkt >= 0xD800 && codepunkt <= 0xDFFF;
-    return codepunkt <= 0x10FFFF && !ersatzbereich;
-}
-
-std::optional<Zeichen> ErstesZeichen(std::string_view utf8) {
-    const auto vorspann = VorspannAus(Byte(utf8.front()));
-    if (!vorspann || utf8.size() < vorspann->laenge) return std::nullopt;
-    char32_t codepunkt = Byte(utf8.front()) & vorspann->nutzbits;
-    for (const char folge : utf8.substr(1, vorspann->laenge - 1)) {
-        if ((Byte(folge) & 0xC0U) != 0x80) return std::nullopt;
-        codepunkt = (codepunkt << 6U) | (Byte(folge) & 0x3FU);
-    }
-    if (codepunkt < vorspann->mindestens || !IstZeichen(codepunkt)) return std::nullopt;
-    return Zeichen{codepunkt, vorspann->laenge};
-}
-
-char ByteAus(char32_t codepunkt) {
+std::optional<char> Windows1252Byte(char32_t codepunkt) {
     const bool eigeneNummer = codepunkt < 0x80 || (codepunkt >= 0xA0 && codepunkt <= 0xFF);
     if (eigeneNummer) return static_cast<char>(codepunkt);
     const auto stelle = std::find(AbByte80.begin(), AbByte80.end(), codepunkt);
-    return stelle == AbByte80.end() ? '?' : static_cast<char>(0x80 + (stelle - AbByte80.begin()));
+    if (stelle == AbByte80.end()) return std::nullopt;
+    return static_cast<char>(0x80 + (stelle - AbByte80.begin()));
 }
-
-// Nothing in the code page lies beyond three bytes of UTF-8.
-void Anhaengen(std::string& utf8, char32_t codepunkt) {
-    if (codepunkt < 0x80) {
-        utf8 += static_cast<char>(codepunkt);
-    } else if (codepunkt < 0x800) {
-        utf8 += static_cast<char>(0xC0U | (codepunkt >> 6U));
-        utf8 += static_cast<char>(0x80U | (codepunkt & 0x3FU));
-    } else {
-        utf8 += static_cast<char>(0xE0U | (codepunkt >> 12U));
-        utf8 += static_cast<char>(0x80U | ((codepunkt >> 6U) & 0x3FU));
-        utf8 += static_cast<char>(0x80U | (codepunkt & 0x3FU));
-    }
-}
-
-}  // namespace
 
 std::string NachWindows1252(std::string_view utf8) {
     const auto istAscii = [](char byte) { return static_cast<unsigned char>(byte) < 0x80; };
@@ -86,8 +32,8 @@ std::string NachWindows1252(std::string_view utf8) {
     std::string bytes;
     bytes.reserve(utf8.size());
     while (!utf8.empty()) {
-        const auto zeichen = ErstesZeichen(utf8);
-        bytes += zeichen ? ByteAus(zeichen->codepunkt) : '?';
+        const auto zeichen = Utf8Lesen(utf8);
+        bytes += zeichen ? Windows1252Byte(zeichen->codepunkt).value_or('?') : '?';
         utf8.remove_prefix(zeichen ? zeichen->laenge : 1);
     }
     return bytes;
@@ -97,9 +43,9 @@ std::string NachUtf8(std::string_view windows1252) {
     std::string utf8;
     utf8.reserve(windows1252.size());
     for (const char zeichen : windows1252) {
-        const unsigned byte = Byte(zeichen);
+        const unsigned byte = static_cast<unsigned char>(zeichen);
         const bool inTabelle = byte >= 0x80 && byte <= 0x9F;
-        Anhaengen(utf8, inTabelle ? AbByte80[byte - 0x80] : static_cast<char32_t>(byte));
+        Utf8Anhaengen(utf8, inTabelle ? AbByte80[byte - 0x80] : static_cast<char32_t>(byte));
     }
     return utf8;
 }

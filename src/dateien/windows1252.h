@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -9,6 +10,9 @@ namespace zinfolio {
 /// code page lacks becomes one "?", and so does each byte that is not part of well-formed UTF-8 (overlong
 /// forms and surrogates are not). Never fails.
 [[nodiscard]] std::string NachWindows1252(std::string_view utf8);
+
+/// The byte that stands for a character in the code page; nothing where it lacks the character.
+[[nodiscard]] std::optional<char> Windows1252Byte(char32_t codepunkt);
 
 /// Windows-1252 bytes as UTF-8. The five bytes without a character (81, 8D, 8F, 90, 9D) become the control
 /// character of the same number, so that all 256 bytes survive the way to UTF-8 and back. Never fails.

@@ -11,18 +11,20 @@ from pathlib import Path
 
 # Which rooms a room may know besides itself, lowest room first. The forms lie in the folders of their core,
 # and are told apart by the name of their file.
-KERN = ("dateien", "dates", "staffel", "finmath", "sparen", "allround", "tabellen", "output")
+KERN = ("dateien", "dates", "richtext", "output", "staffel", "finmath", "sparen", "allround", "tabellen")
+RECHNER = ("dateien", "dates", "richtext", "output", "staffel", "finmath")
 RAEUME = {
     "dateien": (),
     "dates": (),
-    "staffel": ("dateien", "dates"),
-    "finmath": ("dateien", "dates", "staffel"),
-    "sparen": ("dateien", "dates", "staffel", "finmath"),
-    "allround": ("dateien", "dates", "staffel", "finmath"),
-    "tabellen": ("dateien", "dates", "staffel", "finmath"),
-    "output": ("dateien", "dates", "staffel", "finmath"),
+    "richtext": ("dateien",),
+    "output": ("dateien", "dates", "richtext"),
+    "staffel": ("dateien", "dates", "richtext", "output"),
+    "finmath": ("dateien", "dates", "output", "staffel"),
+    "sparen": RECHNER,
+    "allround": RECHNER,
+    "tabellen": RECHNER,
     "stapel": KERN,
-    "ui": ("dateien", "dates", "staffel"),
+    "ui": ("dateien", "dates", "richtext", "output", "staffel"),
     "formen": KERN + ("ui",),
     "shell": KERN + ("ui", "formen"),
 }
@@ -33,7 +35,7 @@ ORDNER_MIT_FORMEN = ("staffel", "sparen", "allround", "tabellen", "output")
 FREMD = (
     (re.compile(r"Q[A-Z]|Qt[A-Z]|qcustomplot|ui_\w+\.h$|\w+\.moc$|moc_\w+\.cpp$"), ("ui", "formen", "shell")),
     (re.compile(r"simdjson\.h$|CLI/|fmt/"), ("stapel",)),
-    (re.compile(r"(fcntl|pwd|unistd|sys/stat|sys/types|sys/file|sys/mman|sys/random|malloc)\.h$"), ("dateien", "stapel")),
+    (re.compile(r"(fcntl|pwd|unistd|sys/stat|sys/types|sys/file|sys/mman|sys/random|malloc|dlfcn)\.h$"), ("dateien", "stapel")),
 )
 STANDARDKOPF = re.compile(r"[a-z_0-9]+$")
 

@@ -13,7 +13,7 @@ GUTER_BAUM = {
     "staffel/form48000.h": '#include <QDialog>\n#include "staffelsatz.h"\n#include "finmath/reihe.h"\n#include "ui/feld.h"\n',
     "finmath/reihe.h": '#include "staffel/staffelsatz.h"\n',
     "sparen/plan.h": '#include "finmath/reihe.h"\n',
-    "output/bericht.h": '#include "staffel/staffelsatz.h"\n',
+    "output/bericht.h": '#include "dates/datum.h"\n',
     "stapel/main.cpp": '#include <simdjson.h>\n#include <CLI/CLI.hpp>\n#include "sparen/plan.h"\n#include "output/bericht.h"\n',
     "ui/feld.h": '#include <QLineEdit>\n#include "dates/datum.h"\n',
     "ui/feld.cpp": '#include "ui/feld.h"\n#include "ui_feld.h"\n',
