@@ -22,26 +22,42 @@ QMessageBox::Icon Zeichen(Meldungsart art) {
     return QMessageBox::Warning;
 }
 
-Antwort Zeigen(QWidget* fenster, Meldungsart art, const Meldungsinhalt& inhalt) {
+/// The buttons of a box, and the one that closing it stands for.
+struct Tasten {
+    QMessageBox::StandardButtons alle;
+    QMessageBox::StandardButton schliessen;
+};
+
+constexpr Tasten hinweistasten{QMessageBox::Ok, QMessageBox::Ok};
+constexpr Tasten fragetasten{QMessageBox::Yes | QMessageBox::No, QMessageBox::No};
+constexpr Tasten abbruchtasten{QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Cancel};
+
+Antwort AntwortAus(int taste) {
+    if (taste == QMessageBox::Yes) return Antwort::ja;
+    return taste == QMessageBox::Cancel ? Antwort::abbrechen : Antwort::nein;
+}
+
+Antwort Zeigen(QWidget* fenster, Meldungsart art, const Meldungsinhalt& inhalt, const Tasten& tasten) {
     if (Zeuge()) return Zeuge()(art, inhalt);
-    const bool frage = art == Meldungsart::frage;
-    QMessageBox box(
-        Zeichen(art), inhalt.titel, inhalt.text,
-        frage ? QMessageBox::Yes | QMessageBox::No : QMessageBox::StandardButtons(QMessageBox::Ok), fenster);
+    QMessageBox box(Zeichen(art), inhalt.titel, inhalt.text, tasten.alle, fenster);
     box.setTextFormat(Qt::PlainText);
-    if (frage) box.setEscapeButton(QMessageBox::No);
+    box.setEscapeButton(tasten.schliessen);
     if (!inhalt.einzelheiten.isEmpty()) box.setDetailedText(inhalt.einzelheiten);
-    return box.exec() == QMessageBox::Yes ? Antwort::ja : Antwort::nein;
+    return AntwortAus(box.exec());
 }
 
 }  // namespace
 
 void MeldungZeigen(QWidget* fenster, const Meldungsinhalt& inhalt, Meldungsart art) {
-    Zeigen(fenster, art, inhalt);
+    Zeigen(fenster, art, inhalt, hinweistasten);
 }
 
 bool Fragen(QWidget* fenster, const Meldungsinhalt& inhalt) {
-    return Zeigen(fenster, Meldungsart::frage, inhalt) == Antwort::ja;
+    return Zeigen(fenster, Meldungsart::frage, inhalt, fragetasten) == Antwort::ja;
+}
+
+Antwort FragenMitAbbruch(QWidget* fenster, const Meldungsinhalt& inhalt) {
+    return Zeigen(fenster, Meldungsart::frage, inhalt, abbruchtasten);
 }
 
 Meldungszeuge MeldungenUmleiten(Meldungszeuge zeuge) {

@@ -19,13 +19,16 @@ struct Meldungsinhalt {
 
 enum class Meldungsart { hinweis, warnung, frage };
 
-enum class Antwort { ja, nein };
+enum class Antwort { ja, nein, abbrechen };
 
 /// Shows a message with an OK button and waits for it.
 void MeldungZeigen(QWidget* fenster, const Meldungsinhalt& inhalt, Meldungsart art = Meldungsart::warnung);
 
 /// Asks a question with Yes and No; closing the box is No.
 [[nodiscard]] bool Fragen(QWidget* fenster, const Meldungsinhalt& inhalt);
+
+/// Asks a question with Yes, No and Cancel; closing the box is Cancel.
+[[nodiscard]] Antwort FragenMitAbbruch(QWidget* fenster, const Meldungsinhalt& inhalt);
 
 /// What stands in for the user: is given each box and answers it.
 using Meldungszeuge = std::function<Antwort(Meldungsart, const Meldungsinhalt&)>;

@@ -1,0 +1,38 @@
+#pragma once
+// The one door for file dialogs: forms ask through it, tests answer through it.
+
+#include <QString>
+#include <filesystem>
+#include <functional>
+#include <optional>
+
+class QWidget;
+
+namespace zinfolio {
+
+/// What a form asks for. Saving asks before it overwrites; opening takes only files that exist.
+struct Dateifrage {
+    enum class Zweck { oeffnen, speichern };
+
+    Zweck zweck = Zweck::speichern;
+    QString titel;
+    /// As dialogs of old have it: "Zahlungsdateien (*.ZiS) |*.ZiS".
+    QString filter;
+    /// What a name without an ending gets when saving: "ZiS".
+    QString endung;
+    /// The name that stands in the dialog at first; a whole path, a name, or empty.
+    QString vorgabe = {};
+};
+
+/// The file that the user chose, with its whole path; nothing where the dialog was cancelled. The current
+/// folder of the program is the same afterwards.
+[[nodiscard]] std::optional<std::filesystem::path> DateiFragen(QWidget* fenster, const Dateifrage& frage);
+
+/// What stands in for the user: is given each question and answers it.
+using Dateizeuge = std::function<std::optional<std::filesystem::path>(const Dateifrage&)>;
+
+/// Lets `zeuge` answer every question instead of showing a dialog, for tests; an empty one shows them again.
+/// Gives who answered so far.
+Dateizeuge DateifragenUmleiten(Dateizeuge zeuge);
+
+}  // namespace zinfolio
