@@ -5,7 +5,6 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
-#include <utility>
 
 #include "dates/textteile.h"
 
@@ -66,30 +65,28 @@ double WertDesAnfangs(std::string_view text, Punkte punkte) {
 }
 
 template <class Gleitzahl>
-std::string Text(Gleitzahl wert, int stellen) {
-    if (wert == 0) return "0";
-    char puffer[32];
-    auto* const ende =
-        std::to_chars(puffer, puffer + sizeof puffer, wert, std::chars_format::general, stellen).ptr;
-    std::replace(puffer, ende, '.', ',');
-    std::replace(puffer, ende, 'e', 'E');
-    return {puffer, ende};
+char* TextSchreiben(char* ziel, std::size_t platz, Gleitzahl wert, int stellen) {
+    char* const ende = std::to_chars(ziel, ziel + platz, wert, std::chars_format::general, stellen).ptr;
+    std::replace(ziel, ende, '.', ',');
+    std::replace(ziel, ende, 'e', 'E');
+    return ende;
 }
 
-/// A 4-byte float from 0,0001 to below 10 million with 7 digits, else nothing. Such a float times a power of
+/// A 4-byte float from 0,0001 to below 10 million with 7 digits, else null. Such a float times a power of
 /// ten up to 10^10 has at most 48 bits, so that the product is exact and its rounding, halves to the even
 /// digit, the one of the text.
-std::optional<std::string> SiebenStellen(float wert) {
+char* SiebenStellenSchreiben(char* ziel, float wert) {
     constexpr std::array zehner{1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10};
     const double betrag = std::fabs(static_cast<double>(wert));
-    if (!(betrag >= 1e-4 && betrag < 1e7)) return std::nullopt;
-    std::size_t stellen = 0;
+    if (!(betrag >= 1e-4 && betrag < 1e7)) return nullptr;
+    // From 1 to below 10, as most factors are, six decimals make seven digits.
+    std::size_t stellen = betrag >= 1 && betrag < 10 ? 6 : 0;
     while (betrag * zehner[stellen] < 1e6)
         ++stellen;
-    auto ziffern = static_cast<std::int64_t>(std::nearbyint(betrag * zehner[stellen]));
+    auto ziffern = static_cast<std::uint32_t>(std::nearbyint(betrag * zehner[stellen]));
     for (; stellen > 0 && ziffern % 10 == 0; --stellen)
         ziffern /= 10;
-    char puffer[16];
+    char puffer[zahltextbreite];
     char* const ende = puffer + sizeof puffer;
     char* anfang = ende;
     for (std::size_t platz = 0; ziffern > 0 || platz <= stellen; ++platz, ziffern /= 10) {
@@ -97,7 +94,7 @@ std::optional<std::string> SiebenStellen(float wert) {
         *--anfang = static_cast<char>('0' + ziffern % 10);
     }
     if (wert < 0) *--anfang = '-';
-    return std::string(anfang, ende);
+    return std::copy(anfang, ende, ziel);
 }
 
 }  // namespace
@@ -132,12 +129,21 @@ std::int16_t Ganzzahl16(double wert) {
 }
 
 std::string Zahltext(double wert) {
-    return Text(wert, 15);
+    if (wert == 0) return "0";
+    char puffer[32];
+    return {puffer, TextSchreiben(puffer, sizeof puffer, wert, 15)};
+}
+
+char* ZahltextSchreiben(char* ziel, float wert) {
+    if (char* const ende = SiebenStellenSchreiben(ziel, wert)) return ende;
+    if (wert != 0) return TextSchreiben(ziel, zahltextbreite, wert, 7);
+    *ziel = '0';
+    return ziel + 1;
 }
 
 std::string Zahltext(float wert) {
-    if (auto text = SiebenStellen(wert)) return *std::move(text);
-    return Text(wert, 7);
+    char puffer[zahltextbreite];
+    return {puffer, ZahltextSchreiben(puffer, wert)};
 }
 
 }  // namespace zinfolio

@@ -2,6 +2,7 @@
 // Numbers from text and as plain text. Text of fields is German (points group, the comma is the decimal
 // sign).
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <stdexcept>
@@ -39,5 +40,11 @@ class Zahlfehler : public std::runtime_error {
 /// no grouping; a whole number has no comma, -0 is "0", very large or small ones have an exponent: "1E+20".
 [[nodiscard]] std::string Zahltext(double wert);
 [[nodiscard]] std::string Zahltext(float wert);
+
+/// Room for the plain text of any 4-byte float: "-1,234567E-38".
+inline constexpr std::size_t zahltextbreite = 16;
+
+/// `Zahltext`, written to a place of `zahltextbreite` characters. Gives the end of the text.
+[[nodiscard]] char* ZahltextSchreiben(char* ziel, float wert);
 
 }  // namespace zinfolio

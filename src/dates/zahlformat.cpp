@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <optional>
 
+#include "dates/textteile.h"
 #include "dates/zahl.h"
 
 namespace zinfolio {
@@ -66,29 +67,27 @@ int Ziffernzahl(const Dezimalzahl& zahl) {
     return static_cast<int>(groesser - zehner.begin()) + zahl.nullen;
 }
 
-/// An amount of currency, the commonest pattern, without a step for each digit: cents, then groups of three.
-std::string Betragstext(std::uint64_t cents, bool minus) {
-    std::array<char, 24> puffer;  // NOLINT(cppcoreguidelines-pro-type-member-init): filled from its end
-    char* const ende = puffer.data() + puffer.size();
-    char* zeichen = ende;
-    const auto setze = [&](std::uint64_t ziffer) { *--zeichen = static_cast<char>('0' + ziffer); };
-    setze(cents % 10);
-    setze(cents / 10 % 10);
-    *--zeichen = ',';
-    std::uint64_t rest = cents / 100;
-    for (; rest >= 1000; rest /= 1000) {
-        const std::uint64_t gruppe = rest % 1000;
-        setze(gruppe % 10);
-        setze(gruppe / 10 % 10);
-        setze(gruppe / 100);
-        *--zeichen = '.';
-    }
-    do {
-        setze(rest % 10);
-        rest /= 10;
-    } while (rest > 0);
-    if (minus) *--zeichen = '-';
-    return {zeichen, ende};
+/// The two digits of 0 to 99.
+char* PaarSchreiben(char* ziel, std::uint64_t wert) {
+    return std::copy_n(&ziffernpaare[2 * wert], 2, ziel);
+}
+
+/// 0 to 999 without zeros in front.
+char* ErsteGruppeSchreiben(char* ziel, std::uint64_t gruppe) {
+    if (gruppe >= 100) *ziel++ = static_cast<char>('0' + gruppe / 100);
+    if (gruppe >= 10) return PaarSchreiben(ziel, gruppe % 100);
+    *ziel++ = static_cast<char>('0' + gruppe);
+    return ziel;
+}
+
+/// A whole number in groups of three.
+char* GruppenSchreiben(char* ziel, std::uint64_t zahl) {
+    if (zahl < 1000) return ErsteGruppeSchreiben(ziel, zahl);
+    ziel = GruppenSchreiben(ziel, zahl / 1000);
+    const std::uint64_t gruppe = zahl % 1000;
+    *ziel++ = '.';
+    *ziel++ = static_cast<char>('0' + gruppe / 100);
+    return PaarSchreiben(ziel, gruppe % 100);
 }
 
 /// Writes the digits from the last to the first.
@@ -118,16 +117,33 @@ std::string Zusammensetzen(Dezimalzahl zahl, const Zahlmuster& muster, bool minu
     return text;
 }
 
-}  // namespace
-
-std::string Format(double wert, const Zahlmuster& muster) {
+std::string NachMuster(double wert, const Zahlmuster& muster) {
     if (!std::isfinite(wert)) throw Zahlfehler("Das Ergebnis ist keine darstellbare Zahl.");
     const double betrag = std::fabs(wert);
     const auto kurz = Kurzweg(betrag, muster.nachkommastellen);
     const Dezimalzahl zahl = kurz ? *kurz : UeberText(betrag, muster.nachkommastellen);
-    const bool minus = wert < 0 && zahl.ziffern != 0;
-    if (kurz && muster == betragsmuster) return Betragstext(static_cast<std::uint64_t>(zahl.ziffern), minus);
-    return Zusammensetzen(zahl, muster, minus);
+    return Zusammensetzen(zahl, muster, wert < 0 && zahl.ziffern != 0);
+}
+
+}  // namespace
+
+std::string Format(double wert, const Zahlmuster& muster) {
+    if (muster != betragsmuster) return NachMuster(wert, muster);
+    std::array<char, betragsbreite> text;  // NOLINT(cppcoreguidelines-pro-type-member-init): filled at once
+    return {text.data(), BetragSchreiben(text.data(), wert)};
+}
+
+char* BetragSchreiben(char* ziel, double wert) {
+    const auto kurz = Kurzweg(std::fabs(wert), betragsmuster.nachkommastellen);
+    if (!kurz) {
+        const std::string text = NachMuster(wert, betragsmuster);
+        return std::copy(text.begin(), text.end(), ziel);
+    }
+    const auto cents = static_cast<std::uint64_t>(kurz->ziffern);
+    if (wert < 0 && cents != 0) *ziel++ = '-';
+    ziel = GruppenSchreiben(ziel, cents / 100);
+    *ziel++ = ',';
+    return PaarSchreiben(ziel, cents % 100);
 }
 
 std::string Format(std::string_view zahltext, const Zahlmuster& muster) {

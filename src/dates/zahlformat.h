@@ -1,6 +1,7 @@
 #pragma once
 // Numbers by pattern, as every table, label and report shows them.
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -46,6 +47,12 @@ inline constexpr Zahlmuster konditionsmuster = Zahlmuster::Lesen("###,#0.0000");
 /// (2,675 by "0.00" is 2,68). A value that rounds to zero shows no minus sign. NaN and infinity are a
 /// `Zahlfehler`.
 [[nodiscard]] std::string Format(double wert, const Zahlmuster& muster);
+
+/// Room for any amount by `betragsmuster`; the longest is minus the largest float, with 309 digits.
+inline constexpr std::size_t betragsbreite = 1 + 309 + 102 + 3;
+
+/// `Format` by `betragsmuster`, written to a place of `betragsbreite` characters. Gives the end of the text.
+[[nodiscard]] char* BetragSchreiben(char* ziel, double wert);
 
 /// The same of a text that holds a number by `Zahl`; the format of an empty text is empty.
 [[nodiscard]] std::string Format(std::string_view zahltext, const Zahlmuster& muster);

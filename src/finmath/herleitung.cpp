@@ -1,5 +1,6 @@
 #include "finmath/herleitung.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 #include "dates/textteile.h"
@@ -12,17 +13,18 @@ namespace {
 
 constexpr Zahlmuster anzeigemuster = Zahlmuster::Lesen("###,##0.00000");
 
-std::string Datumszelle(const Ergebnissatz& satz) {
-    return std::string(satz.Ergebnisdatum.Getrimmt());
+char* Datumszelle(const Ergebnissatz& satz, char* ziel) {
+    const std::string_view datum = satz.Ergebnisdatum.Getrimmt();
+    return std::copy(datum.begin(), datum.end(), ziel);
 }
 
-std::string Faktorzelle(const Ergebnissatz& satz) {
-    return Zahltext(satz.Faktor);
+char* Faktorzelle(const Ergebnissatz& satz, char* ziel) {
+    return ZahltextSchreiben(ziel, satz.Faktor);
 }
 
 template <double Ergebnissatz::*Feld>
-std::string Betragszelle(const Ergebnissatz& satz) {
-    return Format(satz.*Feld, betragsmuster);
+char* Betragszelle(const Ergebnissatz& satz, char* ziel) {
+    return BetragSchreiben(ziel, satz.*Feld);
 }
 
 constexpr std::array<Herleitungszelle, 6> zellen{
@@ -38,6 +40,11 @@ constexpr std::array<Herleitungszelle, 6> zellen{
 
 std::span<const Herleitungszelle> Herleitungszellen() {
     return zellen;
+}
+
+std::string Herleitungstext(const Ergebnissatz& satz, std::size_t spalte) {
+    std::array<char, betragsbreite> text;  // NOLINT(cppcoreguidelines-pro-type-member-init): filled at once
+    return {text.data(), zellen[spalte](satz, text.data())};
 }
 
 std::array<std::string, 6> Herleitungskoepfe(std::string_view effektivergebnis) {

@@ -16,12 +16,16 @@ namespace zinfolio {
 inline constexpr std::string_view herleitungsueberschrift =
     "Herleitung des Effektivzinssatzes: Der kumulierte Vermögensendwert = 0,00";
 
-/// The text that the user sees in a column for a row.
-using Herleitungszelle = std::string (*)(const Ergebnissatz& satz);
+/// Writes the text that the user sees in a column for a row to a place of `betragsbreite` characters; gives
+/// its end.
+using Herleitungszelle = char* (*)(const Ergebnissatz& satz, char* ziel);
 
 /// The cells from left to right: date, amount, factor, terminal value, cumulated terminal value, cumulated
 /// payments.
 [[nodiscard]] std::span<const Herleitungszelle> Herleitungszellen();
+
+/// One of these cells as a text of its own.
+[[nodiscard]] std::string Herleitungstext(const Ergebnissatz& satz, std::size_t spalte);
 
 /// The headers of these columns; the third names the rate, the text as it stands: "Faktor ,50000 %".
 [[nodiscard]] std::array<std::string, 6> Herleitungskoepfe(std::string_view effektivergebnis);

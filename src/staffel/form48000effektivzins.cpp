@@ -39,7 +39,7 @@ void RegisterEffektivzins::Zeigen(Kontoeffektivzins ergebnis) {
         .zelle =
             [this](int zeile, int spalte) {
                 const Ergebnissatz& satz = ergebnis_.Herleitung()[static_cast<std::size_t>(zeile)];
-                return QString::fromStdString(Herleitungszellen()[static_cast<std::size_t>(spalte)](satz));
+                return QString::fromStdString(Herleitungstext(satz, static_cast<std::size_t>(spalte)));
             },
         .zeilentext = {},
     });

@@ -1,8 +1,8 @@
 #include "stapel/herleitungszeilen.h"
 
-#include <string>
-
+#include "dates/zahlformat.h"
 #include "finmath/herleitung.h"
+#include "stapel/zeilenpuffer.h"
 
 namespace zinfolio {
 
@@ -10,17 +10,18 @@ void HerleitungSchreiben(std::string_view name, std::span<const Ergebnissatz> ze
                          JsonSchreiber& ergebnis) {
     ergebnis.Name(name);
     ergebnis.ListeAuf();
-    std::string zeile;
+    Zeilenpuffer zeile;
     for (const Ergebnissatz& satz : zeilen) {
         // Dates and numbers: nothing in them needs an escape.
-        zeile = "[";
+        std::string_view trenner = "[\"";
         for (const Herleitungszelle zelle : Herleitungszellen()) {
-            zeile += '"';
-            zeile += zelle(satz);
-            zeile += "\",";
+            zeile.Text(trenner);
+            zeile.Geschrieben(betragsbreite, [&](char* ziel) { return zelle(satz, ziel); });
+            trenner = "\",\"";
         }
-        zeile.back() = ']';
-        ergebnis.Fertiges(zeile);
+        zeile.Fest("\"]");
+        ergebnis.Fertiges(zeile.Inhalt());
+        zeile.Leeren();
     }
     ergebnis.ListeZu();
 }

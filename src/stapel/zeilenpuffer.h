@@ -17,7 +17,7 @@ namespace zinfolio {
 // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): what is read has been written before
 class Zeilenpuffer {
   public:
-    static constexpr std::size_t platz = 1024;
+    static constexpr std::size_t platz = 2048;
 
     /// A literal. Its length is known while compiling, which makes it a few plain stores.
     template <std::size_t N>
@@ -42,6 +42,13 @@ class Zeilenpuffer {
     void Ganzzahl(std::int64_t zahl) {
         assert(Rest() >= zahlbreite);
         ende = GanzzahlSchreiben(ende, zahl);
+    }
+
+    /// What `schreiben` writes to the place that it is given; it gives the end.
+    template <typename Schreiben>
+    void Geschrieben([[maybe_unused]] std::size_t hoechstens, Schreiben schreiben) {
+        assert(Rest() >= hoechstens);
+        ende = schreiben(ende);
     }
 
     void Leeren() { ende = zeichen.data(); }

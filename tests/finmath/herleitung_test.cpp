@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <limits>
 
 #include "finmath/reihen.h"
 
@@ -14,8 +15,8 @@ using testing::SizeIs;
 
 std::vector<std::string> Zellen(const Ergebnissatz& satz) {
     std::vector<std::string> texte;
-    for (const Herleitungszelle zelle : Herleitungszellen())
-        texte.push_back(zelle(satz));
+    for (std::size_t spalte = 0; spalte < Herleitungszellen().size(); ++spalte)
+        texte.push_back(Herleitungstext(satz, spalte));
     return texte;
 }
 
@@ -32,6 +33,16 @@ TEST(Herleitungszellen, BetraegeMitZweiStellenUndDerFaktorOhneMuster) {
     const Ergebnissatz satz{
         Festtext<10>::AusWindows1252("01.03.2008"), -12345.678, 1.1F, 0, -0.004, 1234567.5};
     EXPECT_THAT(Zellen(satz), ElementsAre("01.03.2008", "-12.345,68", "1,1", "0,00", "0,00", "1.234.567,50"));
+}
+
+TEST(Herleitungszellen, DerGroessteBetragHatPlatz) {
+    Ergebnissatz satz;
+    satz.Ergebnisbetrag = -std::numeric_limits<double>::max();
+    // 15 digits of 1.797...e308, 294 zeros behind them: 309 digits in 103 groups.
+    const std::string text = Herleitungstext(satz, 1);
+    EXPECT_EQ(text.size(), 415U);
+    EXPECT_EQ(text.substr(0, 28), "-179.769.313.486.232.000.000");
+    EXPECT_EQ(text.substr(text.size() - 7), ".000,00");
 }
 
 TEST(Herleitungszellen, DerFaktorHatHoechstensSiebenStellen) {
