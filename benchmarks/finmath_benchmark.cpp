@@ -1,6 +1,7 @@
 // The search for the effective rate against the bare powers that it needs, and the table cells behind it.
 
 #include <algorithm>
+#include <array>
 #include <benchmark/benchmark.h>
 #include <chrono>
 #include <cmath>
@@ -110,12 +111,13 @@ BENCHMARK(BeideTabellen)->ArgNames({"zeilen", "methode"})->ArgsProduct({{51, 360
 /// What the batch command does for one series: rate, derivation, and the texts of its cells.
 void ReiheMitHerleitung(benchmark::State& state) {
     const auto reihe = Monatsraten(static_cast<int>(state.range(0)));
+    std::array<char, betragsbreite> text{};
     for (auto _ : state) {
         const Reihenauswertung rate = ReiheAuswerten(reihe, Effektivmethode::pangv2000);
         for (const Ergebnissatz& zeile :
              Herleitungszeilen(reihe, Effektivmethode::pangv2000, rate.Effektivzins)) {
             for (const Herleitungszelle zelle : Herleitungszellen())
-                benchmark::DoNotOptimize(zelle(zeile));
+                benchmark::DoNotOptimize(zelle(zeile, text.data()));
         }
     }
     state.SetItemsProcessed(state.iterations());
@@ -124,10 +126,11 @@ BENCHMARK(ReiheMitHerleitung)->ArgName("zeilen")->Arg(51)->Arg(360);
 
 void AlleZellen(benchmark::State& state) {
     const auto zeilen = Herleitungszeilen(Monatsraten(51), Effektivmethode::pangv2000, "4,90000");
+    std::array<char, betragsbreite> text{};
     const Herleitungszelle zelle = Herleitungszellen()[static_cast<std::size_t>(state.range(0))];
     for (auto _ : state) {
         for (const Ergebnissatz& zeile : zeilen)
-            benchmark::DoNotOptimize(zelle(zeile));
+            benchmark::DoNotOptimize(zelle(zeile, text.data()));
     }
     state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(zeilen.size()));
 }
