@@ -113,6 +113,27 @@ class Datum {
         return Aus(vorn.An(6) * 100 + hinten.An(0), vorn.An(3), vorn.An(0));
     }
 
+    /// The day of the same month and year that has this number, or nothing.
+    [[nodiscard]] constexpr std::optional<Datum> MitTag(int tag) const {
+        if (tag < 1 || (tag > 28 && tag > Monatslaenge(jahr_, monat_))) return std::nullopt;
+        Datum datum = *this;
+        datum.tageszahl_ += tag - tag_;
+        datum.tag_ = static_cast<std::int8_t>(tag);
+        return datum;
+    }
+
+    /// The date of a `Datumstext` that may lie in the same month and year as `nachbar`, the date of
+    /// `nachbartext`: then its day alone is read. REQUIRES: both texts have ten characters.
+    [[nodiscard]] static constexpr std::optional<Datum> VersucheNeben(std::string_view text,
+                                                                      const Datum& nachbar,
+                                                                      std::string_view nachbartext) {
+        if (datumsziffern::Bytes<8>(text.data() + 2) != datumsziffern::Bytes<8>(nachbartext.data() + 2))
+            return Versuche(text);
+        const datumsziffern::Paare tag = datumsziffern::Lesen(datumsziffern::Bytes<2>(text.data()), 0x3030);
+        if (tag.fremd) return std::nullopt;
+        return nachbar.MitTag(tag.An(0));
+    }
+
     /// The date of a `Datumstext`; anything else is a `Datumsfehler` that shows the text.
     [[nodiscard]] static Datum Lesen(std::string_view text) {
         if (const auto datum = Versuche(text)) return *datum;

@@ -78,7 +78,9 @@ inline Datum Stichtag(const Staffelsatz& satz, Verzinsungsmethode methode) {
 inline Datum Periodenende(std::span<const Staffelsatz> saetze, std::size_t i, const Datum& von,
                           Verzinsungsmethode methode) {
     if (i + 1 == saetze.size() || saetze[i + 1].Satzdatum == saetze[i].Satzdatum) return von;
-    return Stichtag(saetze[i + 1], methode);
+    const auto bis = Datum::VersucheNeben(saetze[i + 1].Satzdatum.Roh(), von, saetze[i].Satzdatum.Roh());
+    if (!bis) Unlesbar(saetze[i + 1], methode);
+    return *bis;
 }
 
 [[noreturn]] void Ueberlauf(std::size_t i) {

@@ -66,6 +66,34 @@ TEST(Schluesseltext, StelltDieStellenUmWasAuchDortSteht) {
     EXPECT_EQ(Schluesseltext("01.02.2007 abends"), "20070201");
 }
 
+TEST(DatumNebenEinemNachbarn, IstDasselbeWieAlleinGelesen) {
+    // Every neighbour of every two digits, in a common and a leap February, and across months and years.
+    for (const char* const ende : {".02.2007", ".02.2008", ".04.2007", ".12.2006"}) {
+        const std::string nachbartext = std::string("15") + ende;
+        const Datum nachbar = Datum::Lesen(nachbartext);
+        for (const char* const eigenes :
+             {".02.2007", ".02.2008", ".04.2007", ".12.2006", ".13.2007", ".02.20x7"}) {
+            for (int tag = 0; tag < 100; ++tag) {
+                const std::string text = (tag < 10 ? "0" : "") + std::to_string(tag) + eigenes;
+                const auto allein = Datum::Versuche(text);
+                const auto daneben = Datum::VersucheNeben(text, nachbar, nachbartext);
+                ASSERT_EQ(daneben.has_value(), allein.has_value()) << text;
+                if (!allein) continue;
+                ASSERT_EQ(daneben->Text(), text);
+                ASSERT_EQ(daneben->Tageszahl(), allein->Tageszahl()) << text;
+            }
+        }
+    }
+}
+
+TEST(DatumNebenEinemNachbarn, EinTagOhneZiffernIstKeiner) {
+    const Datum nachbar = Datum::Lesen("15.02.2007");
+    EXPECT_FALSE(Datum::VersucheNeben("x1.02.2007", nachbar, "15.02.2007"));
+    EXPECT_FALSE(Datum::VersucheNeben("1 .02.2007", nachbar, "15.02.2007"));
+    EXPECT_FALSE(Datum::VersucheNeben("29.02.2007", nachbar, "15.02.2007"));
+    EXPECT_EQ(Datum::VersucheNeben("28.02.2007", nachbar, "15.02.2007"), Datum::Lesen("28.02.2007"));
+}
+
 TEST(Textteile, TrimmtLeerzeichenAnBeidenEnden) {
     EXPECT_EQ(Getrimmt("  a b "), "a b");
     EXPECT_EQ(Getrimmt("ab"), "ab");
