@@ -54,9 +54,7 @@ void ZeichenAnhaengen(std::string& ziel, char32_t codepunkt) {
     UnicodeAnhaengen(ziel, codepunkt);
 }
 
-}  // namespace
-
-void RtfTextAnhaengen(std::string& ziel, std::string_view utf8) {
+void TextAnhaengen(std::string& ziel, std::string_view utf8, void (*hohesZeichen)(std::string&, char32_t)) {
     while (!utf8.empty()) {
         const auto zeichen = Utf8Lesen(utf8);
         if (!zeichen) {
@@ -64,10 +62,20 @@ void RtfTextAnhaengen(std::string& ziel, std::string_view utf8) {
         } else if (zeichen->codepunkt < 0x80) {
             AsciiAnhaengen(ziel, utf8.front());
         } else {
-            ZeichenAnhaengen(ziel, zeichen->codepunkt);
+            hohesZeichen(ziel, zeichen->codepunkt);
         }
         utf8.remove_prefix(zeichen ? zeichen->laenge : 1);
     }
+}
+
+}  // namespace
+
+void RtfTextAnhaengen(std::string& ziel, std::string_view utf8) {
+    TextAnhaengen(ziel, utf8, ZeichenAnhaengen);
+}
+
+void RtfTextInBilderschriftAnhaengen(std::string& ziel, std::string_view utf8) {
+    TextAnhaengen(ziel, utf8, UnicodeAnhaengen);
 }
 
 }  // namespace zinfolio

@@ -11,4 +11,8 @@ namespace zinfolio {
 /// are not well-formed UTF-8, become "?". What is appended has no byte above 7F.
 void RtfTextAnhaengen(std::string& ziel, std::string_view utf8);
 
+/// The same for text in a font of pictures, whose bytes above 7F mean other characters: all characters above
+/// 7F as \uN?.
+void RtfTextInBilderschriftAnhaengen(std::string& ziel, std::string_view utf8);
+
 }  // namespace zinfolio

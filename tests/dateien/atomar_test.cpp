@@ -3,14 +3,14 @@
 #include <cerrno>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <signal.h>
 #include <string>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <vector>
 
 #include "dateien/dateifehler.h"
+#include "dateien/groessengrenze.h"
+#include "dateien/ohnevorrechte.h"
 #include "dateien/stoerung.h"
 #include "dateien/testordner.h"
 
@@ -21,26 +21,6 @@ namespace fs = std::filesystem;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::ThrowsMessage;
-
-// A limit on the size of files, met by writes as on a disk that fills up in their middle.
-class Groessengrenze {
-  public:
-    explicit Groessengrenze(rlim_t grenze) : alterUmgang(::signal(SIGXFSZ, SIG_IGN)) {
-        ::getrlimit(RLIMIT_FSIZE, &alte);
-        const rlimit neue{grenze, alte.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &neue);
-    }
-    Groessengrenze(const Groessengrenze&) = delete;
-    Groessengrenze& operator=(const Groessengrenze&) = delete;
-    ~Groessengrenze() {
-        ::setrlimit(RLIMIT_FSIZE, &alte);
-        ::signal(SIGXFSZ, alterUmgang);
-    }
-
-  private:
-    rlimit alte{};
-    sighandler_t alterUmgang;
-};
 
 unsigned Rechte(const fs::path& datei) {
     struct stat zustand {};
@@ -172,12 +152,11 @@ TEST(Dateirechte, SchreibgeschuetzteDateiWirdNichtErsetzt) {
     const fs::path ziel = ordner.Ablegen("Plan", "alt");
     ASSERT_EQ(::chmod(ziel.c_str(), 0444), 0);
     ASSERT_EQ(::chmod(ordner.Pfad().c_str(), 0777), 0);
-    // The superuser may write anything, so he steps down for the attempt.
-    const uid_t benutzer = ::geteuid();
-    ASSERT_EQ(::seteuid(benutzer == 0 ? 65534 : benutzer), 0);
-    EXPECT_THAT([&] { AtomarSchreiben(ziel, "neu", Sicherung::Fluechtig); },
-                ThrowsMessage<Dateifehler>(HasSubstr("Keine Berechtigung.")));
-    ASSERT_EQ(::seteuid(benutzer), 0);
+    {
+        const OhneVorrechte niemand;
+        EXPECT_THAT([&] { AtomarSchreiben(ziel, "neu", Sicherung::Fluechtig); },
+                    ThrowsMessage<Dateifehler>(HasSubstr("Keine Berechtigung.")));
+    }
     EXPECT_EQ(ordner.Inhalt("Plan"), "alt");
     EXPECT_THAT(ordner.Namen(), ElementsAre("Plan"));
 }

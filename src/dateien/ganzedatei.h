@@ -1,0 +1,20 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <string>
+
+namespace zinfolio {
+
+/// Appends to `text` all that an open file still holds. False, with `errno` set, where the system refuses;
+/// EFBIG for more than `hoechstens` bytes. What was read by then stays.
+[[nodiscard]] bool RestLesen(int nummer, std::size_t hoechstens, std::string& text);
+
+/// The bytes of a file as they are. A missing file is not created. Throws `Dateifehler`, also for more than
+/// `hoechstens` bytes.
+[[nodiscard]] std::string GanzeDateiLesen(const std::filesystem::path& datei, std::size_t hoechstens);
+
+/// Throws a `Dateifehler` for a file that is missing or cannot be opened for reading. Changes nothing.
+void LesbarkeitPruefen(const std::filesystem::path& datei);
+
+}  // namespace zinfolio
