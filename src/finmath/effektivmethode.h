@@ -28,4 +28,8 @@ inline constexpr std::array<std::string_view, 4> effektivmethoden{
     "PAngV2000",
 };
 
+[[nodiscard]] constexpr std::string_view Effektivmethodentext(Effektivmethode methode) {
+    return effektivmethoden.at(static_cast<std::size_t>(methode) - 1);
+}
+
 }  // namespace zinfolio

@@ -11,7 +11,7 @@ namespace zinfolio {
 /// 1440 of them are an inch.
 inline constexpr int twipsJeZoll = 1440;
 
-enum class Ausrichtung { links, mitte, rechts };
+enum class Kopfausrichtung { links, mitte, rechts };
 
 /// A font by its name; the size is in points.
 struct Berichtsschrift {
@@ -26,7 +26,7 @@ struct Berichtsschrift {
 struct Berichtsspalte {
     std::string kopf;
     int breite = 0;
-    Ausrichtung kopfausrichtung = Ausrichtung::mitte;
+    Kopfausrichtung kopfausrichtung = Kopfausrichtung::mitte;
 
     friend bool operator==(const Berichtsspalte&, const Berichtsspalte&) = default;
 };

@@ -19,10 +19,10 @@ std::vector<std::string_view> AnStrichenTeilen(std::string_view text) {
     }
 }
 
-Ausrichtung AusrichtungLesen(std::string_view spalte) {
-    if (spalte.find('<') != std::string_view::npos) return Ausrichtung::links;
-    if (spalte.find('>') != std::string_view::npos) return Ausrichtung::rechts;
-    return Ausrichtung::mitte;
+Kopfausrichtung AusrichtungLesen(std::string_view spalte) {
+    if (spalte.find('<') != std::string_view::npos) return Kopfausrichtung::links;
+    if (spalte.find('>') != std::string_view::npos) return Kopfausrichtung::rechts;
+    return Kopfausrichtung::mitte;
 }
 
 int BreiteLesen(std::string_view spalte) {

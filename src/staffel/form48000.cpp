@@ -1,22 +1,26 @@
 #include "staffel/form48000.h"
 
 #include <QCloseEvent>
+#include <QLabel>
 #include <QMenuBar>
+#include <QStackedWidget>
 #include <QTabWidget>
 #include <QToolBar>
 
 #include "finmath/effektivdateien.h"
+#include "output/formdiagramm.h"
+#include "output/formvorschau.h"
 #include "staffel/form48000berechnung.h"
 #include "staffel/form48000effektivzins.h"
 #include "staffel/form48000zahlungen.h"
 #include "staffel/form48000zinssaetze.h"
 #include "staffel/form48000zinsverrechnung.h"
-#include "staffel/meldungen.h"
 #include "ui/bausteine.h"
 #include "ui/datumsfeld.h"
 #include "ui/fenstergroesse.h"
 #include "ui/geschuetzt.h"
 #include "ui/meldungsfenster.h"
+#include "ui/notizfeld.h"
 #include "ui/symbol.h"
 
 namespace zinfolio {
@@ -28,15 +32,30 @@ constexpr QSize anfangsgroesse(1180, 720);
 
 Form48000::Form48000(const std::filesystem::path& arbeitsordner)
     : dateien_(arbeitsordner),
-      TabStrip1_(new QTabWidget(this)),
+      mitte_(new QStackedWidget(this)),
+      TabStrip1_(new QTabWidget),
+      Projekt_(new QLabel),
       zahlungen_(new RegisterZahlungen(dateien_.Zahlungen(), this)),
       zinssaetze_(new RegisterZinssaetze(dateien_.Konditionen(), this)),
       zinsverrechnung_(new RegisterZinsverrechnung(this)),
       berechnung_(new RegisterBerechnung(this)),
-      notizen_(new QWidget(this)),
-      effektivzins_(new RegisterEffektivzins(this)) {
+      notizen_(new Notizfeld("RTZinsstaffel", this)),
+      effektivzins_(new RegisterEffektivzins(this)),
+      vorschau_(new FormVorschau(arbeitsordner)),
+      diagramm_(new FormDiagramm) {
     setObjectName("Form48000");
-    setWindowTitle("Zinsstaffelrechner");
+    RegisterAnlegen();
+    for (QWidget* bild : std::initializer_list<QWidget*>{TabStrip1_, vorschau_, diagramm_})
+        mitte_->addWidget(bild);
+    setCentralWidget(mitte_);
+    MenueUndLeisteAnlegen();
+    Neu();
+    zinsverrechnung_->Zeigen(KontoeinstellungenLesen(dateien_.Ordner()));
+    Verdrahten();
+    FenstergroesseHolen(*this, anfangsgroesse);
+}
+
+void Form48000::RegisterAnlegen() {
     TabStrip1_->setObjectName("TabStrip1");
     TabStrip1_->addTab(Rollbar(zahlungen_), "Zahlungen");
     TabStrip1_->addTab(Rollbar(zinssaetze_), "Zinssätze");
@@ -44,60 +63,81 @@ Form48000::Form48000(const std::filesystem::path& arbeitsordner)
     TabStrip1_->addTab(berechnung_, "Zinsstaffel berechnen");
     TabStrip1_->addTab(notizen_, "Notizen");
     effektivzins_->hide();
-    setCentralWidget(TabStrip1_);
-    connect(berechnung_, &RegisterBerechnung::effektivzinsVerlangt, this, &Form48000::EffektivzinsRechnen);
-    connect(effektivzins_, &RegisterEffektivzins::zurueck, this, [this] {
-        const QSignalBlocker ohneNeueRechnung(TabStrip1_);
-        TabStrip1_->setCurrentIndex(berechnung);
-    });
-    MenueAnlegen();
-    LeisteAnlegen();
-    connect(TabStrip1_, &QTabWidget::tabBarClicked, this, [this](int register_) {
-        // Selecting the tab that is selected already calculates anew.
-        if (register_ == berechnung && TabStrip1_->currentIndex() == berechnung) Rechnen();
-    });
-    Neu();
-    zinsverrechnung_->Zeigen(KontoeinstellungenLesen(dateien_.Ordner()));
-    connect(TabStrip1_, &QTabWidget::currentChanged, this, &Form48000::RegisterGewaehlt);
-    FenstergroesseHolen(*this, anfangsgroesse);
 }
 
-void Form48000::MenueAnlegen() {
+QAction* Form48000::Befehl(const Befehlsangaben& angaben) {
+    auto* befehl = new QAction(Symbol(angaben.symbol), QString::fromUtf8(angaben.text), this);
+    befehl->setObjectName(QString::fromUtf8(angaben.name));
+    befehl->setToolTip(QString::fromUtf8(angaben.hinweis));
+    befehl->setShortcut(angaben.taste);
+    connect(befehl, &QAction::triggered, this, angaben.wirkung);
+    return befehl;
+}
+
+void Form48000::MenueUndLeisteAnlegen() {
+    const auto wirkung = [this](auto operation) { return [this, operation] { (this->*operation)(); }; };
+    QAction* neu =
+        Befehl({"Neu", "neu", "&Neu", "Neue Datei", QKeySequence::New, wirkung(&Form48000::NeuBeginnen)});
+    QAction* oeffnen = Befehl(
+        {"Öffnen", "oeffnen", "Ö&ffnen", "Datei öffnen", QKeySequence::Open, wirkung(&Form48000::Oeffnen)});
+    QAction* speichern = Befehl({"Schnellspeich", "speichern", "&Speichern", "Speichern", QKeySequence::Save,
+                                 wirkung(&Form48000::Speichern)});
+    QAction* speichernUnter = Befehl({"Speich", "", "Speichern &unter", "Unter einem anderen Namen speichern",
+                                      QKeySequence("Ctrl+Shift+S"), wirkung(&Form48000::SpeichernUnter)});
+    QAction* auswertungen = Befehl({"Auswertungen", "berechnen", "&Berechnen", "Zinsstaffel berechnen",
+                                    QKeySequence("F9"), wirkung(&Form48000::BerechnungWaehlen)});
+    QAction* ende = Befehl({"Programmende", "ende", "&Ende", "Zurück zum Startbildschirm", QKeySequence::Quit,
+                            wirkung(&QWidget::close)});
     QMenu* datei = menuBar()->addMenu("&Datei");
-    datei->addAction(Symbol("ende"), "&Ende", QKeySequence::Quit, this, &QWidget::close)
-        ->setObjectName("Programmende");
-}
-
-void Form48000::LeisteAnlegen() {
+    datei->addActions({neu, oeffnen, speichern, speichernUnter});
+    datei->addSeparator();
+    datei->addAction(ende);
     QToolBar* leiste = addToolBar("Werkzeuge");
     leiste->setObjectName("Toolbar1");
     leiste->setMovable(false);
     leiste->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    QAction* auswertungen = leiste->addAction(Symbol("berechnen"), "&Berechnen", [this] {
-        if (TabStrip1_->currentIndex() == berechnung) return Rechnen();
-        TabStrip1_->setCurrentIndex(berechnung);
-    });
-    auswertungen->setObjectName("Auswertungen");
-    auswertungen->setToolTip("Zinsstaffel berechnen");
-    auswertungen->setShortcut(Qt::Key_F9);
+    leiste->addActions({neu, oeffnen, speichern, auswertungen});
     auto* abstand = new QWidget;
     abstand->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     leiste->addWidget(abstand);
-    QAction* ende = leiste->addAction(Symbol("ende"), "Ende", this, &QWidget::close);
-    ende->setObjectName("Command2");
-    ende->setToolTip("Zurück zum Startbildschirm");
+    leiste->addWidget(new QLabel("Datei: "));
+    Projekt_->setObjectName("Projekt");
+    leiste->addWidget(Projekt_);
+    leiste->addSeparator();
+    leiste->addAction(ende);
+    leiste->widgetForAction(ende)->setObjectName("Command2");
 }
 
-void Form48000::Neu() {
-    dateien_.Neu();
-    zahlungen_->Leeren();
-    zahlungen_->NeuSchreiben();
-    zinssaetze_->Leeren();
-    zinssaetze_->NeuSchreiben2();
-    berechnung_->Leeren();
-    berechnung_->EffektivzinsVerbergen();
-    TabStrip1_->removeTab(TabStrip1_->indexOf(effektivzins_));
-    TabStrip1_->setCurrentIndex(zahlungen);
+void Form48000::Verdrahten() {
+    connect(TabStrip1_, &QTabWidget::currentChanged, this, &Form48000::RegisterGewaehlt);
+    connect(TabStrip1_, &QTabWidget::tabBarClicked, this, [this](int register_) {
+        // Selecting the tab that is selected already calculates anew.
+        if (register_ == berechnung && TabStrip1_->currentIndex() == berechnung) Rechnen();
+    });
+    connect(berechnung_, &RegisterBerechnung::effektivzinsVerlangt, this, &Form48000::EffektivzinsRechnen);
+    connect(berechnung_, &RegisterBerechnung::druckenVerlangt, this, &Form48000::KontoDrucken);
+    connect(berechnung_, &RegisterBerechnung::grafikVerlangt, this, &Form48000::GrafikZeigen);
+    connect(effektivzins_, &RegisterEffektivzins::druckenVerlangt, this, &Form48000::EffektivzinsDrucken);
+    connect(effektivzins_, &RegisterEffektivzins::zurueck, this, [this] {
+        const QSignalBlocker ohneNeueRechnung(TabStrip1_);
+        TabStrip1_->setCurrentIndex(berechnung);
+    });
+    connect(vorschau_, &FormVorschau::zurueck, this, [this] { mitte_->setCurrentWidget(TabStrip1_); });
+    connect(diagramm_, &FormDiagramm::zurueck, this, [this] { mitte_->setCurrentWidget(TabStrip1_); });
+    const auto geaendert = [this] { setWindowModified(true); };
+    connect(zahlungen_, &RegisterZahlungen::geaendert, this, geaendert);
+    connect(zinssaetze_, &RegisterZinssaetze::geaendert, this, geaendert);
+    connect(zinsverrechnung_, &RegisterZinsverrechnung::geaendert, this, geaendert);
+    connect(notizen_, &Notizfeld::geaendert, this, [this] {
+        notizdatei_.reset();
+        setWindowModified(true);
+    });
+}
+
+void Form48000::BerechnungWaehlen() {
+    mitte_->setCurrentWidget(TabStrip1_);
+    if (TabStrip1_->currentIndex() == berechnung) return Rechnen();
+    TabStrip1_->setCurrentIndex(berechnung);
 }
 
 void Form48000::RegisterGewaehlt(int register_) {
@@ -126,10 +166,10 @@ void Form48000::Rechnen() {
 
 void Form48000::EffektivzinsRechnen() {
     GeschuetztMitWartezeiger(this, [this] {
-        Kontoeffektivzins ergebnis =
-            KontoEffektivzinsRechnen(berechnung_->Loesung(), berechnung_->GewaehlteEffektivmethode());
+        const Effektivmethode methode = berechnung_->GewaehlteEffektivmethode();
+        Kontoeffektivzins ergebnis = KontoEffektivzinsRechnen(berechnung_->Loesung(), methode);
         KontoEffektivzinsAblegen(dateien_.Ordner(), ergebnis);
-        berechnung_->EffektivzinsZeigen(ergebnis.ezins);
+        berechnung_->EffektivzinsZeigen(ergebnis.ezins, methode);
         effektivzins_->Zeigen(std::move(ergebnis));
         if (TabStrip1_->indexOf(effektivzins_) < 0) TabStrip1_->addTab(effektivzins_, "Effektivzinssatz");
         TabStrip1_->setCurrentWidget(effektivzins_);
@@ -145,12 +185,16 @@ void Form48000::Ablehnen(const Ablehnung& ablehnung) {
     zinsverrechnung_->Fokussieren(ablehnung.Feld);
 }
 
+bool Form48000::DatumSteht() {
+    auto* datum = qobject_cast<Datumsfeld*>(focusWidget());
+    return !datum || datum->DarfVerlassenWerden();
+}
+
 void Form48000::closeEvent(QCloseEvent* ereignis) {
-    if (auto* datum = qobject_cast<Datumsfeld*>(focusWidget()); datum && !datum->DarfVerlassenWerden()) {
+    if (!DatumSteht() || !VerlassenGewollt()) {
         ereignis->ignore();
         return;
     }
-    Geschuetzt(this, [this] { KontoeinstellungenSchreiben(dateien_.Ordner(), zinsverrechnung_->Lesen()); });
     FenstergroesseMerken(*this);
     ereignis->accept();
     emit verlassen();

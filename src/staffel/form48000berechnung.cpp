@@ -39,6 +39,7 @@ QString Betragstext(double betrag) {
 
 RegisterBerechnung::RegisterBerechnung(QWidget* eltern)
     : QWidget(eltern),
+      loesung_(std::make_shared<const std::vector<Staffelsatz>>()),
       Combo4_(NeueAuswahl("Combo4", kontoansichten, this)),
       Gesamtzahlungssumme_(NeueKennzahl("Gesamtzahlungssumme", this)),
       Geszins_(NeueKennzahl("Geszins", this)),
@@ -49,12 +50,14 @@ RegisterBerechnung::RegisterBerechnung(QWidget* eltern)
       Combo6_(NeueAuswahl("Combo6", effektivmethoden, this)),
       Command5_(NeueTaste("Command5", "&Effektivzinssatz berechnen", this,
                           [this] { emit effektivzinsVerlangt(); })),
+      Command13_(NeueTaste("Command13", "Dru&cken", this, [this] { emit druckenVerlangt(); })),
+      Grafik_(NeueTaste("Grafik", "&Grafik", this, [this] { emit grafikVerlangt(); })),
       Grid_(new Tabelle("Grid", this)) {
     setObjectName("Frame4");
     auto* anordnung = new QVBoxLayout(this);
     anordnung->addWidget(Kopfzeile());
     anordnung->addWidget(Effektivzeile());
-    anordnung->addWidget(Grid_, 1);
+    anordnung->addWidget(Seite(Grid_, {Command13_, Grafik_}), 1);
     connect(Combo4_, &QComboBox::currentIndexChanged, this, &RegisterBerechnung::AnsichtZeigen);
 }
 
@@ -98,7 +101,8 @@ QWidget* RegisterBerechnung::Effektivzeile() {
     return leiste;
 }
 
-void RegisterBerechnung::EffektivzinsZeigen(const std::string& ezins) {
+void RegisterBerechnung::EffektivzinsZeigen(const std::string& ezins, Effektivmethode methode) {
+    effektivmethode_ = methode;
     ezins_->setText(QString::fromStdString(ezins));
     for (QLabel* teil : {Label26_, ezins_, Label28_})
         teil->show();
@@ -115,9 +119,9 @@ Effektivmethode RegisterBerechnung::GewaehlteEffektivmethode() const {
 }
 
 void RegisterBerechnung::Zeigen(std::vector<Staffelsatz> loesung) {
-    loesung_ = std::move(loesung);
-    Command5_->setEnabled(true);
-    const Kontosummen summen = KontosummenBilden(loesung_);
+    loesung_ = std::make_shared<const std::vector<Staffelsatz>>(std::move(loesung));
+    TastenFreigeben(true);
+    const Kontosummen summen = KontosummenBilden(*loesung_);
     Gesamtzahlungssumme_->setText(Betragstext(summen.Gesamtzahlungssumme));
     EV_->setText(Betragstext(summen.Endvermögen));
     Geszins_->setText(Betragstext(summen.Gesamtzinsen));
@@ -125,12 +129,29 @@ void RegisterBerechnung::Zeigen(std::vector<Staffelsatz> loesung) {
 }
 
 void RegisterBerechnung::Leeren() {
-    loesung_.clear();
+    loesung_ = std::make_shared<const std::vector<Staffelsatz>>();
     ezins_->clear();
-    Command5_->setEnabled(false);
+    TastenFreigeben(false);
     for (QLabel* summe : {Gesamtzahlungssumme_, EV_, Geszins_})
         summe->clear();
     AnsichtZeigen();
+}
+
+void RegisterBerechnung::TastenFreigeben(bool frei) {
+    for (QPushButton* taste : {Command5_, Command13_, Grafik_})
+        taste->setEnabled(frei);
+}
+
+Kontoberichtsdaten RegisterBerechnung::Berichtsdaten() const {
+    Kontoberichtsdaten daten;
+    daten.ezins = ezins_->text().toStdString();
+    daten.effektivmethode = Effektivmethodentext(effektivmethode_);
+    daten.Gesamtzahlungssumme = Gesamtzahlungssumme_->text().toStdString();
+    daten.Gesamtzinsen = Geszins_->text().toStdString();
+    daten.Endvermögen = EV_->text().toStdString();
+    daten.loesung = loesung_;
+    daten.ansicht = static_cast<Kontoansicht>(Combo4_->currentIndex());
+    return daten;
 }
 
 void RegisterBerechnung::KurzformWaehlen() {
@@ -140,13 +161,13 @@ void RegisterBerechnung::KurzformWaehlen() {
 void RegisterBerechnung::AnsichtZeigen() {
     const auto ansicht = static_cast<Kontoansicht>(Combo4_->currentIndex());
     const auto spalten = Ansichtsspalten(ansicht);
-    zeilen_ = Ansichtszeilen(ansicht, loesung_);
+    zeilen_ = Ansichtszeilen(ansicht, *loesung_);
     Grid_->Zeige({
         .spalten = Tabellenspalten(spalten),
         .zeilen = static_cast<int>(zeilen_.size()),
         .zelle =
             [this, spalten](int zeile, int spalte) {
-                const Staffelsatz& satz = loesung_[zeilen_[static_cast<std::size_t>(zeile)]];
+                const Staffelsatz& satz = (*loesung_)[zeilen_[static_cast<std::size_t>(zeile)]];
                 return QString::fromStdString(spalten[static_cast<std::size_t>(spalte)].zelle(satz));
             },
         .zeilentext = {},

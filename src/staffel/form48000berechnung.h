@@ -1,11 +1,11 @@
 #pragma once
 
 #include <QWidget>
-#include <functional>
+#include <memory>
 #include <vector>
 
 #include "finmath/effektivmethode.h"
-#include "staffel/kontoansicht.h"
+#include "staffel/kontobericht.h"
 
 class QComboBox;
 class QLabel;
@@ -32,23 +32,34 @@ class RegisterBerechnung : public QWidget {
     void KurzformWaehlen();
 
     /// Shows a rate beside the totals; hides it again.
-    void EffektivzinsZeigen(const std::string& ezins);
+    void EffektivzinsZeigen(const std::string& ezins, Effektivmethode methode);
     void EffektivzinsVerbergen();
 
-    [[nodiscard]] const std::vector<Staffelsatz>& Loesung() const { return loesung_; }
+    [[nodiscard]] const std::vector<Staffelsatz>& Loesung() const { return *loesung_; }
+
+    /// What this tab knows of a report: view, rows, totals and rate as they are shown.
+    [[nodiscard]] Kontoberichtsdaten Berichtsdaten() const;
     [[nodiscard]] Effektivmethode GewaehlteEffektivmethode() const;
 
+    /// The method of the rate that is shown; another choice counts from the next calculation on.
+    [[nodiscard]] Effektivmethode GerechneteEffektivmethode() const { return effektivmethode_; }
+
   signals:
-    /// The user asks for the account's effective rate.
+    /// The user asks for the account's effective rate, its report, its chart.
     void effektivzinsVerlangt();
+    void druckenVerlangt();
+    void grafikVerlangt();
 
   private:
     QWidget* Kopfzeile();
     QWidget* Effektivzeile();
     void AnsichtZeigen();
+    void TastenFreigeben(bool frei);
 
-    std::vector<Staffelsatz> loesung_;
+    /// Shared with the reports made of it.
+    std::shared_ptr<const std::vector<Staffelsatz>> loesung_;
     std::vector<std::size_t> zeilen_;
+    Effektivmethode effektivmethode_ = Effektivmethode::pangv2000;
     QComboBox* Combo4_;
     QLabel* Gesamtzahlungssumme_;
     QLabel* Geszins_;
@@ -58,6 +69,8 @@ class RegisterBerechnung : public QWidget {
     QLabel* Label28_;
     QComboBox* Combo6_;
     QPushButton* Command5_;
+    QPushButton* Command13_;
+    QPushButton* Grafik_;
     Tabelle* Grid_;
 };
 

@@ -22,8 +22,10 @@ RegisterEffektivzins::RegisterEffektivzins(QWidget* eltern)
     kopf->addWidget(Effzisa_);
     auto* anordnung = new QVBoxLayout(this);
     anordnung->addLayout(kopf);
-    anordnung->addWidget(Seite(Grid1_, {NeueTaste("Command14", "&Zurück", this, [this] { emit zurueck(); })}),
-                         1);
+    anordnung->addWidget(
+        Seite(Grid1_, {NeueTaste("Command14", "&Zurück", this, [this] { emit zurueck(); }),
+                       NeueTaste("EffzinsDrucken", "Dru&cken", this, [this] { emit druckenVerlangt(); })}),
+        1);
 }
 
 void RegisterEffektivzins::Zeigen(Kontoeffektivzins ergebnis) {

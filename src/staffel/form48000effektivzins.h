@@ -20,9 +20,12 @@ class RegisterEffektivzins : public QWidget {
     /// Shows a rate, or the table at rate 0 where there is none.
     void Zeigen(Kontoeffektivzins ergebnis);
 
+    [[nodiscard]] const Kontoeffektivzins& Ergebnis() const { return ergebnis_; }
+
   signals:
-    /// The user wants the statement back.
+    /// The user wants the statement back, or the table as a report.
     void zurueck();
+    void druckenVerlangt();
 
   private:
     Kontoeffektivzins ergebnis_;

@@ -167,6 +167,7 @@ void RegisterZahlungen::Verdrahten() {
         felder_.Feld("Ratzahl")->setText("1");
         felder_.Feld("Abstand")->setText("1");
     };
+    liste_.nachAendern = [this] { emit geaendert(); };
     for (const char* name : {"Ratzahl", "Abstand", "Stufen", "Begdatum"}) {
         connect(felder_.Feld(name), &QLineEdit::textChanged, this, &RegisterZahlungen::DatumrechZeigen);
     }
@@ -192,7 +193,7 @@ void RegisterZahlungen::Zeigen(const Zahlungseingabe& eingabe) {
     Check1_->setChecked(eingabe.Check1);
     Check2_->setChecked(eingabe.Check2);
     Command1_->setText(eingabe.Command1 == Deltaeinheit::prozent ? "%" : "€");
-    AenderungsmodusSetzen(geaendert_.has_value());
+    AenderungsmodusSetzen(liste_.Geaendert().has_value());
     StufenFreigeben();
     MonatsendeAnbieten();
     DatumrechZeigen();
@@ -202,8 +203,14 @@ void RegisterZahlungen::NeuSchreiben() {
     liste_.NeuLesen();
 }
 
+void RegisterZahlungen::KontoWechseln() {
+    if (liste_.Geaendert()) AenderungBeenden();
+    VorschauVerwerfen();
+    liste_.KontoWechseln();
+}
+
 void RegisterZahlungen::Leeren() {
-    geaendert_.reset();
+    liste_.AenderungBeenden();
     VorschauVerwerfen();
     Zeigen({});
     felder_.Feld("Begdatum")->setFocus();
@@ -278,15 +285,15 @@ void RegisterZahlungen::Sortieren() {
 }
 
 void RegisterZahlungen::AenderungBeginnen() {
-    geaendert_ = liste_.Markierter();
-    if (!geaendert_) return;
-    const Staffelsatz& satz = liste_.Saetze()[*geaendert_];
+    if (!liste_.AenderungBeginnen()) return;
+    const std::size_t zeile = *liste_.Geaendert();
+    const Staffelsatz& satz = liste_.Saetze()[zeile];
     Zahlungseingabe eingabe;
     eingabe.Begdatum = NachUtf8(satz.Satzdatum.Getrimmt());
     eingabe.Betrag = Zahltext(satz.Zahlbetrag);
     eingabe.Beschreibung = NachUtf8(satz.Zahlungstext.Getrimmt());
     Zeigen(eingabe);
-    Label10_->setText(QString("Zahlung %1 wird geändert.").arg(*geaendert_ + 1));
+    Label10_->setText(QString("Zahlung %1 wird geändert.").arg(zeile + 1));
     felder_.Feld("Begdatum")->setFocus();
 }
 
@@ -295,19 +302,20 @@ void RegisterZahlungen::AenderungUebernehmen() {
         Zahlungseingabe eingabe = Lesen();
         if (!Pruefen(eingabe)) return;
         std::vector<Staffelsatz> saetze = liste_.Saetze();
-        Staffelsatz& satz = saetze.at(*geaendert_);
+        const std::size_t zeile = liste_.Geaendert().value();
+        Staffelsatz& satz = saetze.at(zeile);
         const Staffelsatz neu = Zahlungssatz(eingabe.Begdatum, Zahl(eingabe.Betrag), eingabe.Beschreibung);
         SetzeDatum(satz, eingabe.Begdatum);
         satz.Zahlbetrag = neu.Zahlbetrag;
         satz.Zahlungstext = neu.Zahlungstext;
         liste_.Ersetzen(saetze);
-        liste_.Ansicht()->Markiere(static_cast<int>(*geaendert_));
+        liste_.Ansicht()->Markiere(static_cast<int>(zeile));
         AenderungBeenden();
     });
 }
 
 void RegisterZahlungen::AenderungBeenden() {
-    geaendert_.reset();
+    liste_.AenderungBeenden();
     Label10_->clear();
     Zeigen({});
     felder_.Feld("Begdatum")->setFocus();
@@ -340,7 +348,7 @@ void RegisterZahlungen::MonatsendeAnbieten() {
 }
 
 void RegisterZahlungen::StufenFreigeben() {
-    const bool frei = Check1_->isChecked() && !geaendert_;
+    const bool frei = Check1_->isChecked() && !liste_.Geaendert();
     for (QWidget* feld :
          std::initializer_list<QWidget*>{felder_.Feld("Stufen"), felder_.Feld("Delta"), Command1_}) {
         feld->setEnabled(frei);

@@ -27,6 +27,13 @@ class RegisterZahlungen : public QWidget {
     /// Empties all fields.
     void Leeren();
 
+    /// Another account stands in the file: shows it, and neither a change nor a preview goes on.
+    void KontoWechseln();
+
+  signals:
+    /// The user has changed the payments.
+    void geaendert();
+
   private:
     void FelderAnlegen(Feldraster& raster);
     void SerienfelderAnlegen(Feldraster& raster);
@@ -69,7 +76,6 @@ class RegisterZahlungen : public QWidget {
     /// The series in the preview, and the entry that it comes from.
     std::vector<Staffelsatz> vorschau_;
     Zahlungseingabe vorgesehen_;
-    std::optional<std::size_t> geaendert_;
 };
 
 }  // namespace zinfolio

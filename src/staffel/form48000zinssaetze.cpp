@@ -87,6 +87,7 @@ RegisterZinssaetze::RegisterZinssaetze(const Satzdatei<Staffelsatz>& datei, QWid
                            "Änderungen", "verwerfen2", "List2", "Bearbeiten2", "Löschen2"});
     liste_.ordnen = SortiereKonditionen;
     liste_.nachLesen = [this] { angenommen_ = true; };
+    liste_.nachAendern = [this] { emit geaendert(); };
     for (const char* name : {"Gutzins1", "Gutzins2", "Kreditzins1", "Kreditzins2"}) {
         Eingabefeld* feld = felder_.Feld(name);
         connect(feld, &QLineEdit::textChanged, this, [this, feld] { ZinssatzBegrenzen(*feld); });
@@ -152,6 +153,11 @@ void RegisterZinssaetze::NeuSchreiben2() {
     liste_.NeuLesen();
 }
 
+void RegisterZinssaetze::KontoWechseln() {
+    if (liste_.Geaendert()) AenderungBeenden();
+    liste_.KontoWechseln();
+}
+
 void RegisterZinssaetze::Leeren() {
     AenderungBeenden();
 }
@@ -196,9 +202,8 @@ void RegisterZinssaetze::Schreiben(std::vector<Staffelsatz> saetze) {
 }
 
 void RegisterZinssaetze::AenderungBeginnen() {
-    geaendert_ = liste_.Markierter();
-    if (!geaendert_) return;
-    Zeigen(KonditionZurEingabe(liste_.Saetze()[*geaendert_]));
+    if (!liste_.AenderungBeginnen()) return;
+    Zeigen(KonditionZurEingabe(liste_.Saetze()[*liste_.Geaendert()]));
     AenderungsmodusSetzen(true);
     felder_.Feld("Gültigdatum")->setFocus();
 }
@@ -208,7 +213,7 @@ void RegisterZinssaetze::AenderungUebernehmen() {
         Konditionseingabe eingabe = Lesen();
         if (!Pruefen(eingabe, Doppelpruefung::aus)) return;
         std::vector<Staffelsatz> saetze = liste_.Saetze();
-        Staffelsatz& satz = saetze.at(*geaendert_);
+        Staffelsatz& satz = saetze.at(liste_.Geaendert().value());
         satz.kondition = KonditionErzeugen(eingabe).kondition;
         SetzeDatum(satz, eingabe.Gültigdatum);
         Schreiben(std::move(saetze));
@@ -223,11 +228,11 @@ void RegisterZinssaetze::AenderungBeenden() {
 }
 
 void RegisterZinssaetze::AenderungsmodusSetzen(bool an) {
-    if (!an) geaendert_.reset();
+    if (!an) liste_.AenderungBeenden();
     findChild<QPushButton*>("speichern2")->setVisible(!an);
     for (const char* name : {"Änderungen", "verwerfen2"})
         findChild<QPushButton*>(name)->setVisible(an);
-    hinweis_->setText(an ? QString("Kondition %1 wird geändert.").arg(*geaendert_ + 1) : QString());
+    hinweis_->setText(an ? QString("Kondition %1 wird geändert.").arg(*liste_.Geaendert() + 1) : QString());
     listenseite_->setEnabled(!an);
 }
 

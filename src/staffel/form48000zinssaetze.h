@@ -25,8 +25,15 @@ class RegisterZinssaetze : public QWidget {
     /// Empties all fields.
     void Leeren();
 
+    /// Another account stands in the file: shows it, and no change goes on.
+    void KontoWechseln();
+
     /// What selecting the tab does: the second rate applies to the whole balance, the date has the focus.
     void Betreten();
+
+  signals:
+    /// The user has changed the conditions.
+    void geaendert();
 
   private:
     QWidget* Eingabeseite();
@@ -48,7 +55,6 @@ class RegisterZinssaetze : public QWidget {
     QLabel* hinweis_ = nullptr;
     QWidget* listenseite_ = nullptr;
     bool angenommen_ = true;
-    std::optional<std::size_t> geaendert_;
 };
 
 }  // namespace zinfolio

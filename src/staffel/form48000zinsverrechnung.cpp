@@ -17,6 +17,9 @@ RegisterZinsverrechnung::RegisterZinsverrechnung(QWidget* eltern)
     setObjectName("Frame3_Zinsverrechnung");
     Combo1_->setCurrentIndex(static_cast<int>(Zinsverrechnungsart::jahresende));
     Kontodatum_->setPlaceholderText("xx.yy.zzzz");
+    for (const QComboBox* auswahl : {Combo1_, Combo3_})
+        connect(auswahl, &QComboBox::activated, this, &RegisterZinsverrechnung::geaendert);
+    connect(Kontodatum_, &QLineEdit::textEdited, this, &RegisterZinsverrechnung::geaendert);
     auto* raster = new Feldraster;
     raster->Zeile("&Zinsverrechnung", Combo1_);
     raster->Zeile("&Datum für Kontoabschluss/-berechnung", Kontodatum_);

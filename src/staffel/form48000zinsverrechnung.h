@@ -28,6 +28,10 @@ class RegisterZinsverrechnung : public QWidget {
     /// What selecting the tab does.
     void Betreten();
 
+  signals:
+    /// The user has changed a setting.
+    void geaendert();
+
   private:
     QComboBox* Combo1_;
     Datumsfeld* Kontodatum_;

@@ -1,6 +1,7 @@
 #include "staffel/formsatzliste.h"
 
 #include <QAction>
+#include <algorithm>
 #include <numeric>
 
 #include "staffel/meldungen.h"
@@ -23,15 +24,31 @@ FormSatzliste::FormSatzliste(const Satzlistenart& art, const Satzdatei<Staffelsa
 }
 
 void FormSatzliste::NeuLesen() {
+    const auto vorher = geaendert_ ? std::optional(saetze_.at(*geaendert_)) : std::nullopt;
     saetze_ = datei_.Lesen();
+    if (vorher) geaendert_ = Stelle(*vorher);
     Zeigen();
     tabelle_->Markiere(static_cast<int>(saetze_.size()) - 1);
     nachLesen();
 }
 
+std::optional<std::size_t> FormSatzliste::Stelle(const Staffelsatz& satz) const {
+    const auto treffer = std::find(saetze_.begin(), saetze_.end(), satz);
+    if (treffer == saetze_.end()) return std::nullopt;
+    return static_cast<std::size_t>(treffer - saetze_.begin());
+}
+
+void FormSatzliste::KontoWechseln() {
+    geloescht_.clear();
+    rueckgaengig_->setEnabled(false);
+    geaendert_.reset();
+    NeuLesen();
+}
+
 void FormSatzliste::Ersetzen(const std::vector<Staffelsatz>& saetze) {
     datei_.Schreiben(saetze);
     NeuLesen();
+    nachAendern();
 }
 
 void FormSatzliste::Zeigen() {
@@ -49,14 +66,17 @@ void FormSatzliste::Zeigen() {
     });
 }
 
-std::optional<std::size_t> FormSatzliste::Markierter() {
+bool FormSatzliste::AenderungBeginnen() {
     const auto zeilen = tabelle_->MarkierteZeilen();
-    if (!zeilen.empty()) return zeilen.front();
+    if (!zeilen.empty()) {
+        geaendert_ = zeilen.front();
+        return true;
+    }
     MeldungZeigen(
         tabelle_,
         {.text = Anzeigetext(meldung::nichtsMarkiert), .titel = Anzeigetext(meldung::titelMarkieren)},
         Meldungsart::hinweis);
-    return std::nullopt;
+    return false;
 }
 
 void FormSatzliste::MarkierteLoeschen() {

@@ -32,15 +32,22 @@ class FormSatzliste : public QObject {
     [[nodiscard]] Tabelle* Ansicht() const { return tabelle_; }
     [[nodiscard]] const std::vector<Staffelsatz>& Saetze() const { return saetze_; }
 
-    /// Reads the file and shows it, with its last row selected.
+    /// Reads the file and shows it, with its last row selected. A row under change follows its record.
     void NeuLesen();
+
+    /// Another account stands in the file: reads it, and nothing deleted before comes back.
+    void KontoWechseln();
 
     /// Makes these rows the file's content and shows them; shows what the file holds also where writing
     /// fails, and passes the fault on.
     void Ersetzen(const std::vector<Staffelsatz>& saetze);
 
-    /// The marked row if there is one, else a message.
-    [[nodiscard]] std::optional<std::size_t> Markierter();
+    /// Puts the marked row under change; a message, and false, where there is none.
+    bool AenderungBeginnen();
+    void AenderungBeenden() { geaendert_.reset(); }
+
+    /// The row under change, if there is one.
+    [[nodiscard]] std::optional<std::size_t> Geaendert() const { return geaendert_; }
 
     /// Deletes the marked rows, or all, after the question that belongs to it.
     void MarkierteLoeschen();
@@ -48,10 +55,14 @@ class FormSatzliste : public QObject {
     /// Called each time the list has been built from the file.
     std::function<void()> nachLesen = [] {};
 
+    /// Called when the user has made other rows the file's content.
+    std::function<void()> nachAendern = [] {};
+
     /// Brings the rows into the order that the file keeps, after deleted ones have come back.
     std::function<void(std::vector<Staffelsatz>&)> ordnen = [](auto&) {};
 
   private:
+    [[nodiscard]] std::optional<std::size_t> Stelle(const Staffelsatz& satz) const;
     void Zeigen();
     void Loeschen(const std::vector<std::size_t>& zeilen);
     void LoeschenRueckgaengig();
@@ -62,6 +73,7 @@ class FormSatzliste : public QObject {
     QAction* rueckgaengig_;
     std::vector<Staffelsatz> saetze_;
     std::vector<Loeschung> geloescht_;
+    std::optional<std::size_t> geaendert_;
 };
 
 }  // namespace zinfolio

@@ -11,10 +11,6 @@ namespace {
 
 using Einstellungssatz = Selbstsatz<30>;
 
-Satzdatei<Einstellungssatz> Datei(const std::filesystem::path& ordner) {
-    return {ordner, "Zinsverrechnung"};
-}
-
 /// The value of record k, if the file has one of that type; nothing for an empty record.
 template <class Wert>
 std::optional<Wert> Lies(const Satzdatei<Einstellungssatz>& datei,
@@ -45,11 +41,11 @@ void KontoeinstellungenSchreiben(const std::filesystem::path& ordner,
         {einstellungen.Kontodatum},
         {static_cast<std::int16_t>(einstellungen.Verzinsungsmethode)},
     }};
-    Datei(ordner).Schreiben(saetze);
+    Satzdatei<Einstellungssatz>(ordner, "Zinsverrechnung").Schreiben(saetze);
 }
 
-Kontoeinstellungswerte KontoeinstellungenLesen(const std::filesystem::path& ordner) {
-    const auto datei = Datei(ordner);
+Kontoeinstellungswerte KontoeinstellungenLesen(const std::filesystem::path& ordner, std::string_view name) {
+    const Satzdatei<Einstellungssatz> datei(ordner, name);
     // Reading would create the file; a new account has none until it is left or saved.
     if (!std::filesystem::exists(datei.Pfad())) return {};
     const auto saetze = datei.Lesen();

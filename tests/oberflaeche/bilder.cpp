@@ -60,6 +60,20 @@ void Beispielkonto(Form48000& form) {
     Druecke(Qt::Key_Return);
 }
 
+void NotizSchreiben() {
+    Druecke(Qt::Key_B, Qt::ControlModifier);
+    Tippe("Girokonto 2025");
+    Druecke(Qt::Key_B, Qt::ControlModifier);
+    Druecke(Qt::Key_Return);
+    Tippe("Auszug der Bank vom 02.01.2026: Endsaldo stimmt auf den Cent.");
+}
+
+void SpeichernAls(Form48000& form, const QString& datei) {
+    const auto vorher = DateifragenUmleiten([&](const Dateifrage&) { return datei.toStdString(); });
+    QTest::keyClick(&form, Qt::Key_S, Qt::ControlModifier);
+    DateifragenUmleiten(vorher);
+}
+
 void BilderDesKontos(const QDir& ordner) {
     const QTemporaryDir arbeitsordner;
     Form48000 form(arbeitsordner.path().toStdString());
@@ -69,8 +83,20 @@ void BilderDesKontos(const QDir& ordner) {
     Bild(form, ordner, "zinsverrechnung");
     Waehle(form, Form48000::zinssaetze);
     Bild(form, ordner, "zinssaetze");
+    Waehle(form, Form48000::notizen);
+    NotizSchreiben();
+    Bild(form, ordner, "notizen");
+    SpeichernAls(form, arbeitsordner.filePath("Girokonto.ZiS"));
     Waehle(form, Form48000::berechnung);
     Bild(form, ordner, "kontoauszug");
+    Klicke(form, "Grafik");
+    Bild(form, ordner, "grafik");
+    Klicke(form, "Command7");
+    Klicke(form, "Command13");
+    Bild(form, ordner, "kopfseite");
+    Druecke(Qt::Key_PageDown);
+    Bild(form, ordner, "bericht");
+    Klicke(form, "Command11");
     Klicke(form, "Command5");
     Bild(form, ordner, "effektivzins");
     Klicke(form, "Command14");

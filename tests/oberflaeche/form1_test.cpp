@@ -56,6 +56,8 @@ class Form1Test : public QObject {
         Druecke(Qt::Key_Return);
         QVERIFY(Rechner());
         QVERIFY(!form.isVisible());
+        Zeuge zeuge;
+        zeuge.antwort = Antwort::nein;
         Rechner()->close();
         QVERIFY(form.isVisible());
     }
@@ -66,6 +68,8 @@ class Form1Test : public QObject {
         Zeige(form);
         Finde<QAction>(&form, "Zinsstaffelrechner")->trigger();
         QVERIFY(Rechner());
+        Zeuge zeuge;
+        zeuge.antwort = Antwort::nein;
         Rechner()->close();
     }
 

@@ -5,6 +5,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include "ui/dateidialog.h"
 #include "ui/meldungsfenster.h"
 
 namespace zinfolio {
@@ -60,6 +61,27 @@ class Zeuge {
 
   private:
     Meldungszeuge vorher_;
+};
+
+/// Answers every file dialog while it lives, and keeps what was asked.
+class Dateiwahl {
+  public:
+    Dateiwahl() {
+        vorher_ = DateifragenUmleiten([this](const Dateifrage& frage) {
+            fragen.push_back(frage);
+            return antwort;
+        });
+    }
+    ~Dateiwahl() { DateifragenUmleiten(vorher_); }
+    Dateiwahl(const Dateiwahl&) = delete;
+    Dateiwahl& operator=(const Dateiwahl&) = delete;
+
+    std::vector<Dateifrage> fragen;
+    /// Nothing: the dialog is cancelled.
+    std::optional<std::filesystem::path> antwort;
+
+  private:
+    Dateizeuge vorher_;
 };
 
 /// A working folder of its own, gone with the test.

@@ -1,6 +1,7 @@
 #pragma once
 // Driving the form of the account as a user does.
 
+#include <QAbstractButton>
 #include <QLineEdit>
 #include <QTabBar>
 #include <QTabWidget>

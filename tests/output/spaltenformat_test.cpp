@@ -10,21 +10,21 @@ using testing::ElementsAre;
 
 TEST(Spaltenformat, BreitenStehenInZollUndWerdenTwips) {
     EXPECT_THAT(SpaltenformatLesen("^+1.0in|^2.0in|^1.6in", "Datum|Vorgang|Zahlungsbetrag"),
-                ElementsAre(Berichtsspalte{"Datum", 1440, Ausrichtung::mitte},
-                            Berichtsspalte{"Vorgang", 2880, Ausrichtung::mitte},
-                            Berichtsspalte{"Zahlungsbetrag", 2304, Ausrichtung::mitte}));
+                ElementsAre(Berichtsspalte{"Datum", 1440, Kopfausrichtung::mitte},
+                            Berichtsspalte{"Vorgang", 2880, Kopfausrichtung::mitte},
+                            Berichtsspalte{"Zahlungsbetrag", 2304, Kopfausrichtung::mitte}));
 }
 
 TEST(Spaltenformat, EineEinzelneSpalteBrauchtKeinenStrich) {
     EXPECT_THAT(SpaltenformatLesen("<12.0in", ""),
-                ElementsAre(Berichtsspalte{"", 17280, Ausrichtung::links}));
+                ElementsAre(Berichtsspalte{"", 17280, Kopfausrichtung::links}));
 }
 
 TEST(Spaltenformat, EinZeichenDarfHinterDerBreiteStehen) {
     EXPECT_THAT(SpaltenformatLesen("^1.0in|1.6in^|>0.6in", "a|b|c"),
-                ElementsAre(Berichtsspalte{"a", 1440, Ausrichtung::mitte},
-                            Berichtsspalte{"b", 2304, Ausrichtung::mitte},
-                            Berichtsspalte{"c", 864, Ausrichtung::rechts}));
+                ElementsAre(Berichtsspalte{"a", 1440, Kopfausrichtung::mitte},
+                            Berichtsspalte{"b", 2304, Kopfausrichtung::mitte},
+                            Berichtsspalte{"c", 864, Kopfausrichtung::rechts}));
 }
 
 TEST(Spaltenformat, LeereKoepfeBleibenSpalten) {

@@ -1,0 +1,115 @@
+#include "output/formexport.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QImage>
+#include <QPrinter>
+#include <optional>
+
+#include "dateien/atomar.h"
+#include "dateien/dateifehler.h"
+#include "output/formdruck.h"
+#include "output/formdruckdialog.h"
+#include "output/formfortschritt.h"
+#include "output/formpdf.h"
+#include "output/htmlbericht.h"
+#include "output/rtfbericht.h"
+#include "ui/dateidialog.h"
+#include "ui/meldungsfenster.h"
+
+namespace zinfolio {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int bildpunkteJeZoll = 200;
+constexpr qsizetype laengeDerEndung = 4;
+
+using Abbruch = Fortschrittsfenster::Abbruch;
+
+/// Asks before a file is overwritten that the dialog has not asked about.
+bool DarfWerden(QWidget* fenster, const fs::path& datei, const fs::path& gewaehlt) {
+    std::error_code unwichtig;
+    if (datei == gewaehlt || !fs::exists(datei, unwichtig)) return true;
+    return Fragen(fenster, {.text = "Die Datei \"" + QString::fromStdString(datei.string()) +
+                                    "\" gibt es schon.\nSoll sie überschrieben werden?"});
+}
+
+/// The file to write, with the ending without its point; nothing where the user cancelled.
+std::optional<fs::path> NachNamenFragen(const Exportauftrag& auftrag, const QString& endung) {
+    const auto gewaehlt =
+        DateiFragen(auftrag.fenster,
+                    {.titel = "Exportieren",
+                     .filter = QString("Ratenspardateien (*.%1) |*.%1").arg(endung),
+                     .endung = endung,
+                     .vorgabe = auftrag.projektordner.isEmpty() ? QString() : auftrag.projektordner + '/'});
+    if (!gewaehlt || gewaehlt->empty()) return std::nullopt;
+    fs::path datei = Exportname(*gewaehlt, '.' + endung);
+    if (!DarfWerden(auftrag.fenster, datei, *gewaehlt)) return std::nullopt;
+    return datei;
+}
+
+/// Runs what writes files, and tells the user where one cannot be written.
+template <class Operation>
+void MitMeldung(QWidget* fenster, const Operation& operation) {
+    try {
+        operation();
+    } catch (const Dateifehler& fehler) {
+        MeldungZeigen(fenster, {.text = QString::fromUtf8(fehler.what())});
+    }
+}
+
+/// The report as a text of its kind; nothing where the user cancelled.
+std::optional<std::string> AlsText(QWidget* fenster, Exportziel ziel, const Bericht& bericht) {
+    Fortschrittsfenster anzeige(fenster, "Der Bericht wird geschrieben …", Abbruch::moeglich);
+    std::string text;
+    const Berichtssenke senke = [&](std::string_view teil) { text += teil; };
+    const bool fertig = ziel == Exportziel::rtf ? RtfBerichtSchreiben(bericht, senke, anzeige.Zuhoerer())
+                                                : HtmlBerichtSchreiben(bericht, senke, anzeige.Zuhoerer());
+    if (!fertig) return std::nullopt;
+    return text;
+}
+
+}  // namespace
+
+fs::path Exportname(const fs::path& gewaehlt, const QString& endung) {
+    QString name = QString::fromStdString(gewaehlt.filename().string());
+    if (name.size() > laengeDerEndung) name.chop(laengeDerEndung);
+    return gewaehlt.parent_path() / (name + endung).toStdString();
+}
+
+void DruckerExport(const Exportauftrag& auftrag, const Seitenmaler& maler) {
+    QPrinter drucker(QPrinter::HighResolution);
+    DruckEinrichten(drucker, maler.Inhalt());
+    if (!DruckerFragen(auftrag.fenster, drucker)) return;
+    Fortschrittsfenster anzeige(auftrag.fenster, "Der Bericht wird gedruckt …", Abbruch::unmoeglich);
+    if (Drucken(maler, drucker, anzeige.Zuhoerer())) return;
+    MeldungZeigen(auftrag.fenster, {.text = "Der Bericht kann nicht gedruckt werden."});
+}
+
+void PdfExport(const Exportauftrag& auftrag, const Seitenmaler& maler) {
+    MitMeldung(auftrag.fenster, [&] {
+        const auto datei = NachNamenFragen(auftrag, "pdf");
+        if (!datei) return;
+        Fortschrittsfenster anzeige(auftrag.fenster, "Die PDF-Datei wird geschrieben …", Abbruch::moeglich);
+        (void)PdfSchreiben(maler, *datei, anzeige.Zuhoerer());
+    });
+}
+
+void TextExport(const Exportauftrag& auftrag, Exportziel ziel, const Bericht& bericht) {
+    const QString endung = ziel == Exportziel::rtf ? "rtf" : "htm";
+    MitMeldung(auftrag.fenster, [&] {
+        const auto text = AlsText(auftrag.fenster, ziel, bericht);
+        if (!text) return;
+        AtomarSchreiben(auftrag.arbeitsordner / ("Zwispei." + endung.toStdString()), *text,
+                        Sicherung::Fluechtig);
+        const auto datei = NachNamenFragen(auftrag, endung);
+        if (datei) AtomarSchreiben(*datei, *text, Sicherung::Dauerhaft);
+    });
+}
+
+void ZwischenspeicherExport(const Seitenmaler& maler, int seite) {
+    QGuiApplication::clipboard()->setImage(maler.Bild(seite, bildpunkteJeZoll));
+}
+
+}  // namespace zinfolio

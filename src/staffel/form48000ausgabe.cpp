@@ -1,0 +1,63 @@
+// What the account's window shows on paper and as a chart.
+
+#include <QStackedWidget>
+#include <QTabWidget>
+
+#include "finmath/herleitungsbericht.h"
+#include "output/formdiagramm.h"
+#include "output/formvorschau.h"
+#include "staffel/form48000.h"
+#include "staffel/form48000berechnung.h"
+#include "staffel/form48000effektivzins.h"
+#include "staffel/form48000zinsverrechnung.h"
+#include "staffel/kontobericht.h"
+#include "staffel/kontodiagramm.h"
+#include "ui/geschuetzt.h"
+#include "ui/meldungsfenster.h"
+
+namespace zinfolio {
+
+void Form48000::KontoDrucken() {
+    Vorschau([this] {
+        Kontoberichtsdaten daten = berechnung_->Berichtsdaten();
+        daten.projekt = Projektname().toStdString();
+        daten.einstellungen = zinsverrechnung_->Lesen();
+        daten.konditionen = dateien_.Konditionen().Lesen();
+        return KontoberichtBilden(daten);
+    });
+}
+
+void Form48000::EffektivzinsDrucken() {
+    Vorschau([this] {
+        const Kontoeffektivzins& ergebnis = effektivzins_->Ergebnis();
+        const auto zeilen = ergebnis.Herleitung();
+        return HerleitungsberichtBilden({
+            .projekt = Projektname().toStdString(),
+            .methode = berechnung_->GerechneteEffektivmethode(),
+            .ezins = ergebnis.ezins,
+            .zeilen = std::make_shared<const std::vector<Ergebnissatz>>(zeilen.begin(), zeilen.end()),
+        });
+    });
+}
+
+void Form48000::GrafikZeigen() {
+    GeschuetztMitWartezeiger(this, [this] {
+        auto ergebnis = Kontodiagramm(berechnung_->Loesung());
+        if (const auto* ablehnung = std::get_if<Ablehnung>(&ergebnis)) return Ablehnen(*ablehnung);
+        berechnung_->KurzformWaehlen();
+        auto& diagramm = std::get<Diagramm>(ergebnis);
+        diagramm.titel = Projektname().toStdString();
+        diagramm_->Zeigen(diagramm);
+        mitte_->setCurrentWidget(diagramm_);
+    });
+}
+
+void Form48000::Vorschau(const std::function<Bericht()>& bilden) {
+    GeschuetztMitWartezeiger(this, [&] {
+        const auto ordner = projekt_ ? projekt_->parent_path() : std::filesystem::path();
+        vorschau_->Zeigen(bilden, QString::fromStdString(ordner.string()));
+        mitte_->setCurrentWidget(vorschau_);
+    });
+}
+
+}  // namespace zinfolio

@@ -1,0 +1,160 @@
+// The account as a project: new, open, save, and the question on leaving.
+
+#include <QLabel>
+#include <QStackedWidget>
+#include <QTabWidget>
+
+#include "dateien/dateifehler.h"
+#include "richtext/rtflesen.h"
+#include "richtext/rtfschreiben.h"
+#include "staffel/form48000.h"
+#include "staffel/form48000berechnung.h"
+#include "staffel/form48000effektivzins.h"
+#include "staffel/form48000zahlungen.h"
+#include "staffel/form48000zinssaetze.h"
+#include "staffel/form48000zinsverrechnung.h"
+#include "staffel/kontoprojekt.h"
+#include "staffel/staffelsortierung.h"
+#include "ui/dateidialog.h"
+#include "ui/geschuetzt.h"
+#include "ui/meldungsfenster.h"
+#include "ui/notizfeld.h"
+
+namespace zinfolio {
+namespace {
+
+const Meldungsinhalt speicherfrage{.text = "Speichern ?", .titel = "Speichern"};
+
+Dateifrage Projektfrage(Dateifrage::Zweck zweck, const std::optional<std::filesystem::path>& projekt) {
+    return {
+        .zweck = zweck,
+        .titel = zweck == Dateifrage::Zweck::oeffnen ? "Konto öffnen" : "Konto speichern",
+        .filter = "Zahlungsdateien (*.ZiS) |*.ZiS",
+        .endung = "ZiS",
+        .vorgabe = projekt ? QString::fromStdString(projekt->string()) : QString(),
+    };
+}
+
+}  // namespace
+
+void Form48000::Neu() {
+    dateien_.Neu();
+    EffektivregisterEntfernen();
+    zinssaetze_->Leeren();
+    zinssaetze_->KontoWechseln();
+    zahlungen_->Leeren();
+    zahlungen_->KontoWechseln();
+    berechnung_->Leeren();
+    berechnung_->EffektivzinsVerbergen();
+    NotizenZeigen({}, Anlass::oeffnen);
+    ProjektBenennen(std::nullopt);
+    mitte_->setCurrentWidget(TabStrip1_);
+    TabStrip1_->setCurrentIndex(zahlungen);
+}
+
+void Form48000::NeuBeginnen() {
+    if (!DatumSteht() || !AufgebenGewollt()) return;
+    Geschuetzt(this, [this] { Neu(); });
+}
+
+void Form48000::Oeffnen() {
+    if (!DatumSteht() || !AufgebenGewollt()) return;
+    EffektivregisterEntfernen();
+    if (const auto datei = DateiFragen(this, Projektfrage(Dateifrage::Zweck::oeffnen, projekt_)))
+        Laden(*datei, Anlass::oeffnen);
+}
+
+void Form48000::Laden(const std::filesystem::path& datei, Anlass anlass) {
+    const bool gelungen = GeschuetztMitWartezeiger(this, [&] {
+        std::string notiz = KontoprojektEinlesen(dateien_.Ordner(), datei);
+        ProjektBenennen(datei);
+        zahlungen_->KontoWechseln();
+        zinssaetze_->KontoWechseln();
+        zinsverrechnung_->Zeigen(KontoeinstellungenLesen(dateien_.Ordner()));
+        mitte_->setCurrentWidget(TabStrip1_);
+        TabStrip1_->setCurrentIndex(zahlungen);
+        NotizenZeigen(std::move(notiz), anlass);
+        setWindowModified(false);
+    });
+    if (gelungen) return;
+    // What was copied stays, but must not be saved over the project that it is a part of.
+    ProjektBenennen(std::nullopt);
+    Geschuetzt(this, [this] {
+        zahlungen_->KontoWechseln();
+        zinssaetze_->KontoWechseln();
+    });
+}
+
+bool Form48000::Speichern() {
+    if (!DatumSteht()) return false;
+    return projekt_ ? ProjektSchreiben(*projekt_) : SpeichernUnter();
+}
+
+bool Form48000::SpeichernUnter() {
+    if (!DatumSteht()) return false;
+    const auto datei = DateiFragen(this, Projektfrage(Dateifrage::Zweck::speichern, projekt_));
+    return datei && ProjektSchreiben(*datei);
+}
+
+bool Form48000::ProjektSchreiben(const std::filesystem::path& datei) {
+    std::string notiz = NotizenAlsDatei();
+    try {
+        KontoeinstellungenSchreiben(dateien_.Ordner(), zinsverrechnung_->Lesen());
+        KontoprojektSpeichern(dateien_.Ordner(), datei, notiz);
+    } catch (const Dateifehler& fehler) {
+        MeldungZeigen(this, {.text = QString("Das Konto konnte nicht gespeichert werden.\n\n") +
+                                     QString::fromUtf8(fehler.what())});
+        return false;
+    }
+    notizdatei_ = std::move(notiz);
+    Laden(datei, Anlass::wiederladen);
+    return true;
+}
+
+std::string Form48000::NotizenAlsDatei() const {
+    return notizdatei_ ? *notizdatei_ : RtfSchreiben(notizen_->Lesen());
+}
+
+void Form48000::NotizenZeigen(std::string datei, Anlass anlass) {
+    if (notizdatei_ == datei && anlass == Anlass::wiederladen) return;
+    notizen_->Zeigen(RtfLesen(datei));
+    if (anlass == Anlass::oeffnen) notizen_->GrundschriftSetzen();
+    notizdatei_.reset();
+    if (datei.starts_with("{\\rtf")) notizdatei_ = std::move(datei);
+}
+
+bool Form48000::AufgebenGewollt() {
+    if (!isWindowModified()) return true;
+    const Antwort antwort = FragenMitAbbruch(this, speicherfrage);
+    return antwort == Antwort::nein || (antwort == Antwort::ja && Speichern());
+}
+
+bool Form48000::VerlassenGewollt() {
+    Geschuetzt(this, [this] { KontoeinstellungenSchreiben(dateien_.Ordner(), zinsverrechnung_->Lesen()); });
+    const Antwort antwort = FragenMitAbbruch(this, speicherfrage);
+    if (antwort != Antwort::ja) return antwort == Antwort::nein;
+    const bool sortiert = Geschuetzt(this, [this] {
+        std::vector<Staffelsatz> saetze = dateien_.Zahlungen().Lesen();
+        SortiereZahlungen(saetze);
+        dateien_.Zahlungen().Schreiben(saetze);
+    });
+    return sortiert && Speichern();
+}
+
+void Form48000::ProjektBenennen(std::optional<std::filesystem::path> datei) {
+    projekt_ = std::move(datei);
+    const QString name = Projektname();
+    Projekt_->setText(name);
+    setWindowTitle(name.isEmpty() ? "Zinsstaffelrechner[*]" : "Zinsstaffelrechner – " + name + "[*]");
+    setWindowModified(false);
+}
+
+QString Form48000::Projektname() const {
+    return projekt_ ? QString::fromStdString(projekt_->filename().string()) : QString();
+}
+
+void Form48000::EffektivregisterEntfernen() {
+    if (const int stelle = TabStrip1_->indexOf(effektivzins_); stelle >= 0) TabStrip1_->removeTab(stelle);
+}
+
+}  // namespace zinfolio
