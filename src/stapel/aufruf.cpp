@@ -4,24 +4,21 @@
 #include <algorithm>
 #include <charconv>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <thread>
 
+#include "stapel/aufruffehler.h"
 #include "stapel/ausgangsstatus.h"
 #include "stapel/befehle.h"
 #include "stapel/kanal.h"
+#include "stapel/staffeloptionen.h"
 
 namespace zinfolio {
 namespace {
 
 constexpr unsigned hoechsteKerne = 256;
-
-/// A call that cannot be carried out; the message names the part at fault.
-class Aufruffehler : public std::runtime_error {
-  public:
-    using std::runtime_error::runtime_error;
-};
 
 constexpr const char* statusworte =
     "Status am Ende: 0 gerechnet; 1 abgelehnt (im Stapel: wenigstens ein Auftrag ohne Ergebnis);\n"
@@ -42,9 +39,11 @@ struct Kommandozeile {
     CLI::App app{"Rechnet Konten und Zahlungen, wie die Fenster von zinfolio es tun.", "zinfolio-cli"};
     CLI::App* stapel = nullptr;
     CLI::App* rechne = nullptr;
+    CLI::App* staffel = nullptr;
     CLI::Option* kerne = nullptr;
     std::string kernetext;
     std::string datei;
+    std::optional<Staffeloptionen> staffeloptionen;
 
     Kommandozeile() {
         Beschriften();
@@ -55,6 +54,7 @@ struct Kommandozeile {
         app.footer(
             "Beispiele:\n"
             "  zinfolio-cli rechne konto.json\n"
+            "  zinfolio-cli staffel konto.ZiS --pdf konto.pdf\n"
             "  zinfolio-cli stapel < auftraege.jsonl > ergebnisse.jsonl\n" +
             std::string("\n") + statusworte);
         Befehle();
@@ -86,7 +86,12 @@ struct Kommandozeile {
             ->required();
         stapel->footer(stapelbeispiel);
         rechne->footer(rechnebeispiel);
-        for (CLI::App* const befehl : {stapel, rechne}) {
+        staffel = app.add_subcommand(
+            "staffel", "Rechnet ein gespeichertes Konto und zeigt die Staffel oder schreibt ihren Bericht");
+        // Its many options are made only where the command is called, so that the others start as fast as
+        // before.
+        staffel->preparse_callback([this](std::size_t) { staffeloptionen.emplace(*staffel); });
+        for (CLI::App* const befehl : {stapel, rechne, staffel}) {
             befehl->group("Befehle");
             befehl->set_help_flag("-h,--help", "Diese Hilfe zeigen")->group("Optionen");
         }
@@ -129,6 +134,7 @@ unsigned KerneLesen(const Kommandozeile& zeile) {
 int Ausfuehren(const Kommandozeile& zeile) {
     UeberzaehligesAblehnen(zeile.app);
     if (zeile.stapel->parsed()) return BefehlStapel(KerneLesen(zeile));
+    if (zeile.staffel->parsed()) return BefehlStaffel(zeile.staffeloptionen->Lesen());
     return BefehlRechne(zeile.datei);
 }
 

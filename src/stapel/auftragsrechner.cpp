@@ -4,6 +4,7 @@
 #include <new>
 
 #include "staffel/meldungen.h"
+#include "stapel/ablehnungsfelder.h"
 #include "stapel/auftragsfehler.h"
 #include "stapel/jsonschreiber.h"
 #include "stapel/rechnungen.h"
@@ -46,16 +47,9 @@ JsonSchreiber Eroeffnet(std::string& ergebnis, const Auftragskopf& kopf, bool ok
     return schreiber;
 }
 
-void OderNull(JsonSchreiber& schreiber, std::string_view name, std::string_view text) {
-    schreiber.Name(name);
-    text.empty() ? schreiber.Null() : schreiber.Wert(text);
-}
-
 void AblehnungSchreiben(const Ablehnung& ablehnung, const Auftragskopf& kopf, std::string& ergebnis) {
     JsonSchreiber schreiber = Eroeffnet(ergebnis, kopf, false);
-    schreiber.Feld("Meldung", ablehnung.Meldung);
-    OderNull(schreiber, "Feld", ablehnung.Feld);
-    OderNull(schreiber, "Register", ablehnung.Register);
+    AblehnungsfelderSchreiben(ablehnung, schreiber);
     schreiber.ObjektZu();
 }
 

@@ -3,6 +3,8 @@
 
 #include <string>
 
+#include "stapel/staffelaufruf.h"
+
 namespace zinfolio {
 
 /// Jobs from standard input, results to standard output, on so many cores.
@@ -10,5 +12,9 @@ namespace zinfolio {
 
 /// One job from a file ("-" is standard input), its result on indented lines.
 [[nodiscard]] int BefehlRechne(const std::string& datei);
+
+/// A saved account, or one from tables: a view of its statement, and reports. Throws `Aufruffehler` where an
+/// output would take the place of an input.
+[[nodiscard]] int BefehlStaffel(const Staffelaufruf& aufruf);
 
 }  // namespace zinfolio

@@ -6,6 +6,7 @@
 
 #include "dateien/dateifehler.h"
 #include "dateien/deskriptor.h"
+#include "dateien/ganzedatei.h"
 #include "stapel/jsonleser.h"
 
 namespace zinfolio {
@@ -21,17 +22,17 @@ bool Schreiben(int nummer, std::string_view text) {
     return true;
 }
 
+Kanalfehler Lesefehler(int fehlernummer) {
+    return Kanalfehler("Die Eingabe kann nicht gelesen werden: " + Systemgrund(fehlernummer));
+}
+
 Dateitext AllesLesen(int nummer, std::size_t hoechstens) {
-    constexpr std::size_t lesemenge = std::size_t{64} << 10;
     Dateitext text;
-    std::size_t gelesen = 1;
-    while (gelesen > 0) {
-        text.puffer.resize(text.laenge + lesemenge);
-        gelesen = KanalLesen(nummer, text.puffer.data() + text.laenge, lesemenge);
-        text.laenge += gelesen;
-        if (text.laenge > hoechstens) throw Kanalfehler("Die Datei ist zu groß.");
+    if (!RestLesen(nummer, hoechstens, text.puffer)) {
+        if (errno == EFBIG) throw Kanalfehler("Die Datei ist zu groß.");
+        throw Lesefehler(errno);
     }
-    text.puffer.resize(text.laenge);
+    text.laenge = text.puffer.size();
     text.puffer.append(nachlauf, '\0');
     return text;
 }
@@ -40,7 +41,7 @@ Dateitext AllesLesen(int nummer, std::size_t hoechstens) {
 
 std::size_t KanalLesen(int nummer, char* ziel, std::size_t platz) {
     const auto anzahl = OhneUnterbrechung([&] { return ::read(nummer, ziel, platz); });
-    if (anzahl < 0) throw Kanalfehler("Die Eingabe kann nicht gelesen werden: " + Systemgrund(errno));
+    if (anzahl < 0) throw Lesefehler(errno);
     return static_cast<std::size_t>(anzahl);
 }
 

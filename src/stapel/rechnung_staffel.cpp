@@ -1,18 +1,10 @@
-#include <algorithm>
 #include <string>
 
-#include "dateien/satzdatei.h"
-#include "dates/zahlformat.h"
-#include "finmath/kontoeffektivzins.h"
-#include "staffel/konto.h"
-#include "staffel/kontoansicht.h"
-#include "staffel/rechenfehler.h"
 #include "stapel/feldlesen.h"
 #include "stapel/feldtafel.h"
-#include "stapel/herleitungszeilen.h"
 #include "stapel/kontofelder.h"
 #include "stapel/rechnungen.h"
-#include "stapel/staffelzeilen.h"
+#include "stapel/staffelergebnis.h"
 
 namespace zinfolio {
 namespace {
@@ -53,12 +45,6 @@ constexpr auto kontofelder =
                    Pflichtfeld<&Kontoauftrag::Verzinsungsmethode>("Verzinsungsmethode"),
                    Kannfeld<&Kontoauftrag::Effektivmethode>("Effektivmethode"));
 
-void EffektivzinsSchreiben(const Kontoeffektivzins& effektivzins, JsonSchreiber& ergebnis) {
-    ergebnis.Feld("ezins", effektivzins.ezins);
-    ergebnis.Feld("Effektivergebnis", effektivzins.Effektivergebnis);
-    HerleitungSchreiben("Herleitung", effektivzins.Herleitung(), ergebnis);
-}
-
 Konto KontoAus(Kontoauftrag&& auftrag) {
     Konto konto;
     konto.zahlungen = std::move(auftrag.Zahlungen.saetze);
@@ -68,38 +54,14 @@ Konto KontoAus(Kontoauftrag&& auftrag) {
     return konto;
 }
 
-/// The texts of the three labels.
-struct Summentexte {
-    std::string Gesamtzahlungssumme;
-    std::string Endvermögen;
-    std::string Gesamtzinsen;
-};
-
-Summentexte SummentexteBilden(const Konto& konto) {
-    const Kontosummen summen = KontosummenBilden(konto.loesung);
-    return {Format(summen.Gesamtzahlungssumme, betragsmuster), Format(summen.Endvermögen, betragsmuster),
-            Format(summen.Gesamtzinsen, betragsmuster)};
-}
-
 }  // namespace
 
 std::optional<Ablehnung> RechneStaffel(JsonWert& auftrag, JsonSchreiber& ergebnis) {
     Kontoauftrag eingabe = AuftragLesen(auftrag, kontofelder);
     const std::optional<Effektivmethode> methode = eingabe.Effektivmethode.methode;
-    Konto konto = KontoAus(std::move(eingabe));
-    if (std::max(konto.zahlungen.size(), konto.konditionen.size()) > HoechstzahlSaetze) {
-        throw Rechenfehler("Mehr als 32767 Zahlungen oder Konditionen.");
-    }
-    if (auto ablehnung = KontoRechnen(konto)) return ablehnung;
-    const Summentexte summen = SummentexteBilden(konto);
-    EndlichkeitPruefen(konto.loesung);
-    if (!methode) ergebnis.Festlegen();
-    ergebnis.Name("Zeilen");
-    StaffelzeilenSchreiben(konto.loesung, ergebnis);
-    ergebnis.Feld("Gesamtzahlungssumme", summen.Gesamtzahlungssumme);
-    ergebnis.Feld("Endvermögen", summen.Endvermögen);
-    ergebnis.Feld("Gesamtzinsen", summen.Gesamtzinsen);
-    if (methode) EffektivzinsSchreiben(KontoEffektivzinsRechnen(konto.loesung, *methode), ergebnis);
+    Staffelergebnis gerechnetes{.konto = KontoAus(std::move(eingabe))};
+    if (auto ablehnung = StaffelRechnen(gerechnetes, methode)) return ablehnung;
+    StaffelergebnisSchreiben(gerechnetes, ergebnis);
     return std::nullopt;
 }
 

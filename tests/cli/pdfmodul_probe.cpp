@@ -1,0 +1,17 @@
+// Stands in for the module that writes PDF: tells in the file what it was given.
+
+#include <fstream>
+#include <string>
+
+#include "output/bericht.h"
+
+extern "C" int ZinfolioBerichtAlsPdf(const zinfolio::Bericht* bericht, const char* datei,
+                                     std::string* fehler) {
+    const zinfolio::Berichtstabelle& tabelle = bericht->tabelle;
+    std::ofstream strom(datei);
+    strom << bericht->titel << ": " << tabelle.spalten.size() << " Spalten, " << tabelle.zeilen
+          << " Zeilen, zuletzt " << tabelle.zelle(tabelle.zeilen - 1, tabelle.spalten.size() - 1) << '\n';
+    if (strom.flush()) return 0;
+    *fehler = "Die Probe kann \"" + std::string(datei) + "\" nicht schreiben.";
+    return 1;
+}
