@@ -7,6 +7,7 @@
 
 #include "oberflaeche/kontoformular.h"
 #include "shell/form1.h"
+#include "staffel/zahlungseingabe.h"
 #include "ui/deutsch.h"
 #include "ui/uhr.h"
 
@@ -89,9 +90,6 @@ void BilderDesKontos(const QDir& ordner) {
     SpeichernAls(form, arbeitsordner.filePath("Girokonto.ZiS"));
     Waehle(form, Form48000::berechnung);
     Bild(form, ordner, "kontoauszug");
-    Klicke(form, "Grafik");
-    Bild(form, ordner, "grafik");
-    Klicke(form, "Command7");
     Klicke(form, "Command13");
     Bild(form, ordner, "kopfseite");
     Druecke(Qt::Key_PageDown);
@@ -110,6 +108,25 @@ void BilderDesKontos(const QDir& ordner) {
     Bild(form, ordner, "zahlungen");
     Klicke(form, "Speichern");
     Bild(form, ordner, "vorschau");
+}
+
+/// Twenty years of 1 200 a year at 4 %, and the chart of it.
+void BildDesSparkontos(const QDir& ordner) {
+    const QTemporaryDir arbeitsordner;
+    Form48000 form(arbeitsordner.path().toStdString());
+    form.resize(1180, 720);
+    Zeige(form);
+    Fuelle(form, "Ratzahl", "20");
+    Finde<QComboBox>(&form, "Combo5")->setCurrentIndex(static_cast<int>(Abstandseinheit::jahre));
+    Zahlung(form, "31.12.2005", "1200", "Sparrate");
+    Klicke(form, "Command3");
+    Kondition(form, "31.12.2005", {{"Gutzins1", "4"}, {"Guthabenlinie", "9999999"}, {"Kreditlinie", "1"}});
+    Waehle(form, Form48000::zinsverrechnung);
+    Fuelle(form, "Kontodatum", "31.12.2025");
+    SpeichernAls(form, arbeitsordner.filePath("Sparkonto.ZiS"));
+    Waehle(form, Form48000::berechnung);
+    Klicke(form, "Grafik");
+    Bild(form, ordner, "grafik");
 }
 
 void DunkelFaerben() {
@@ -151,5 +168,6 @@ int main(int argc, char** argv) {
     Bild(start, ordner, "startbild");
     start.hide();
     BilderDesKontos(ordner);
+    BildDesSparkontos(ordner);
     return 0;
 }

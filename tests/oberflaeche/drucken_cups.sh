@@ -7,7 +7,15 @@ set -euo pipefail
 probe="$1"
 ordner="$(mktemp -d)"
 dienst=""
-trap '[ -z "$dienst" ] || kill "$dienst" 2>/dev/null || true; rm -rf "$ordner"' EXIT
+Aufraeumen() {
+    if [ -n "$dienst" ]; then
+        kill "$dienst" 2>/dev/null || true
+        # It writes into the folder until its end.
+        wait "$dienst" 2>/dev/null || true
+    fi
+    rm -rf "$ordner"
+}
+trap Aufraeumen EXIT
 
 Uebersprungen() {
     echo "uebersprungen: $1"
