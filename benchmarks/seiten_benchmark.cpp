@@ -23,7 +23,7 @@ void Seiten(benchmark::State& zustand, const Seitenmaler& maler) {
     zustand.counters["Seiten"] = maler.Seiten();
 }
 
-/// The layout of the whole report and its first page of the table, as large as on a screen.
+/// The layout of the whole report and a page of its table, as large as on a screen.
 void ErsteSeite(benchmark::State& zustand) {
     const Bericht bericht = Messbericht(zustand);
     for (auto _ : zustand) {

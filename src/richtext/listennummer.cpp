@@ -60,9 +60,9 @@ std::string Nummerntext(Listenart art, int nummer) {
 
 std::string Listennummer(const Liste& liste, int nummer) {
     if (liste.art == Listenart::keine || liste.art == Listenart::punkte) return {};
-    const std::string text = Nummerntext(liste.art, nummer);
-    if (liste.nach == Nachzeichen::keins) return text;
-    return text + (liste.nach == Nachzeichen::klammer ? ')' : '.');
+    std::string text = Nummerntext(liste.art, nummer);
+    if (liste.nach != Nachzeichen::keins) text += liste.nach == Nachzeichen::klammer ? ')' : '.';
+    return text;
 }
 
 }  // namespace zinfolio

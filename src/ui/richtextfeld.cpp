@@ -49,13 +49,20 @@ QVariant Richtextfeld::loadResource(int /*art*/, const QUrl& /*name*/) {
 void Richtextfeld::keyPressEvent(QKeyEvent* ereignis) {
     const bool zurueck = ereignis->key() == Qt::Key_Backtab;
     const bool weiter = ereignis->key() == Qt::Key_Tab && ereignis->modifiers().testFlag(Qt::ControlModifier);
-    // The text field's own answer is to stay, since Tab belongs to its text.
-    if ((weiter || zurueck) && QAbstractScrollArea::focusNextPrevChild(weiter)) return;
+    if ((weiter || zurueck) && Verlassen(weiter)) return;
     const bool leererListenpunkt = textCursor().currentList() && textCursor().block().length() == 1;
     if (ereignis->matches(QKeySequence::InsertParagraphSeparator) && !leererListenpunkt)
         AbsatzBeginnen();
     else
         QTextEdit::keyPressEvent(ereignis);
+}
+
+bool Richtextfeld::Verlassen(bool weiter) {
+    // As long as Tab belongs to its text, the field does not let the focus go.
+    setTabChangesFocus(true);
+    const bool verlassen = focusNextPrevChild(weiter);
+    setTabChangesFocus(false);
+    return verlassen;
 }
 
 void Richtextfeld::AbsatzBeginnen() {

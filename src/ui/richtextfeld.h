@@ -22,6 +22,7 @@ class Richtextfeld : public QTextEdit {
     void insertFromMimeData(const QMimeData* quelle) override;
 
   private:
+    bool Verlassen(bool weiter);
     /// Enter, with the formats going on. The toolkit would take the formats of an empty paragraph away
     /// instead of beginning another; that is kept for an empty item of a list, which ends the list.
     void AbsatzBeginnen();

@@ -62,6 +62,13 @@ TEST(RtfDatei, FormatUeberstehtZweitausendKlammern) {
     EXPECT_EQ(text.absaetze, (std::vector<Absatz>{{{}, {{"x", {.fett = true}}, {"y", {}}}}}));
 }
 
+TEST(RtfDatei, JenseitsVonTausendKlammernGiltDerZustandDerTausendsten) {
+    // The file's own brace is the first; b and c both lie in the thousandth group.
+    const Richtext text = RtfLesen(Datei(std::string(998, '{') + "a{{{\\b b}c}d}e" + std::string(998, '}')));
+    const Zeichenformat fett{.fett = true};
+    EXPECT_EQ(text.absaetze, (std::vector<Absatz>{{{}, {{"a", {}}, {"bcd", fett}, {"e", {}}}}}));
+}
+
 TEST(RtfDatei, ZweitausendUnbekannteGruppen) {
     std::string innen;
     for (int tiefe = 0; tiefe < 2000; ++tiefe)

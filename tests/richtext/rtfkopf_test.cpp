@@ -49,6 +49,7 @@ TEST(RtfKopf, NameMitUmlautNachZeichensatzUndUnicode) {
 
 TEST(RtfKopf, NameOhneSemikolonEndetMitDerGruppe) {
     EXPECT_EQ(Schrift(R"({\f1 Arial}{\f2 Tahoma;})"), "Arial");
+    EXPECT_EQ(Schrift(R"({\f0 Tahoma;}{\f1 Arial})"), "Arial");
 }
 
 TEST(RtfKopf, LeererNameIstDieGrundschrift) {
@@ -84,6 +85,8 @@ TEST(RtfKopf, FarbenZaehlenAbDemErstenEintrag) {
 TEST(RtfKopf, ErsterEintragKannEineFarbeSein) {
     const std::string kopf = R"({\rtf1{\colortbl\red1\green2\blue3;})";
     EXPECT_EQ(Format(kopf + "\\cf0 x}").farbe, (Farbe{1, 2, 3}));
+    // The ground has no number 0.
+    EXPECT_EQ(Format(kopf + "\\highlight0\\cb0 x}").hintergrund, std::nullopt);
 }
 
 TEST(RtfKopf, FarbanteileWerdenBegrenztUndFehlendeSindNull) {

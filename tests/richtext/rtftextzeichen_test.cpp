@@ -95,7 +95,9 @@ INSTANTIATE_TEST_SUITE_P(
         Fall{"OhneZahl", R"(\u ?x)", "\uFFFDx"}, Fall{"ZahlAusserhalb", R"(\u128512?x)", "\uFFFDx"},
         Fall{"ZahlUeberInt", R"(\u99999999999999999999?x)", "\uFFFDx"},
         Fall{"TabulatorAlsUnicode", R"(a\u9?b)", "a\tb"}, Fall{"NullFaelltWeg", R"(a\u0?b)", "ab"},
-        Fall{"Zeilentrenner", R"(a\u8232?b)", "a\nb"}, Fall{"ObjektplatzFaelltWeg", R"(a\u-4?b)", "ab"}),
+        Fall{"Zeilentrenner", R"(a\u8232?b)", "a\nb"},
+        Fall{"KeinZeichenFaelltWeg", R"(a\u-560?\u-1?b)", "ab"},
+        Fall{"ObjektplatzFaelltWeg", R"(a\u-4?b)", "ab"}),
     name);
 
 INSTANTIATE_TEST_SUITE_P(
