@@ -31,10 +31,11 @@ std::vector<std::string> Zerlegt(std::string_view text, char trenner) {
 /// The keys of one group of a desktop file, none where the file is missing.
 std::map<std::string, std::string> Gruppe(const path& datei, std::string_view name) {
     std::map<std::string, std::string> werte;
+    const std::string kopf = std::string("[").append(name).append("]");
     std::ifstream strom(datei);
     bool drin = false;
     for (std::string zeile; std::getline(strom, zeile);) {
-        if (zeile.starts_with('[')) drin = zeile == "[" + std::string(name) + "]";
+        if (zeile.starts_with('[')) drin = zeile == kopf;
         const auto gleich = zeile.find('=');
         if (drin && gleich != std::string::npos)
             werte.emplace(zeile.substr(0, gleich), zeile.substr(gleich + 1));
