@@ -49,10 +49,11 @@ Bericht AlsBericht(const QString& text) {
 /// its path, an empty one where it cannot be written.
 QString UebergabeSchreiben(const std::string& rtf) {
     QTemporaryFile datei(QDir::temp().filePath("Ergebnisse-XXXXXX.rtf"));
-    datei.setAutoRemove(false);
     if (!datei.open()) return {};
     const auto laenge = static_cast<qint64>(rtf.size());
-    return datei.write(rtf.data(), laenge) == laenge && datei.flush() ? datei.fileName() : QString();
+    if (datei.write(rtf.data(), laenge) != laenge || !datei.flush()) return {};
+    datei.setAutoRemove(false);
+    return datei.fileName();
 }
 
 }  // namespace
@@ -150,7 +151,7 @@ void Form34::Ausdrucken() {
 void Form34::AnTextverarbeitung() {
     const QString datei = UebergabeSchreiben(RtfBericht(AlsBericht(R_->toPlainText())));
     if (datei.isEmpty() || !TextverarbeitungStarten(*textverarbeitung_, datei.toStdString())) {
-        QFile::remove(datei);
+        if (!datei.isEmpty()) QFile::remove(datei);
         MeldungZeigen(this, {.text = "Die Textverarbeitung kann nicht gestartet werden."});
     }
     FestenNamenSetzen();

@@ -7,12 +7,12 @@
 #include <QPushButton>
 
 #include "dateien/atomar.h"
-#include "dateien/dateifehler.h"
 #include "output/formdiagrammbild.h"
 #include "output/formdiagrammplot.h"
 #include "output/formdruckdialog.h"
 #include "ui/bausteine.h"
 #include "ui/dateidialog.h"
+#include "ui/geschuetzt.h"
 #include "ui/meldungsfenster.h"
 
 namespace zinfolio {
@@ -93,12 +93,10 @@ void FormDiagramm::BildSpeichern() {
         MeldungZeigen(this, {.text = "Ein Bild kann nur als .png, .svg oder .pdf gespeichert werden."});
         return;
     }
-    try {
+    MitSchreibmeldung(this, [&] {
         AtomarSchreiben(*datei, std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())),
                         Sicherung::Dauerhaft);
-    } catch (const Dateifehler& fehler) {
-        MeldungZeigen(this, {.text = QString::fromUtf8(fehler.what())});
-    }
+    });
 }
 
 void FormDiagramm::BildKopieren() const {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 #include "output/formdiagrammachsen.h"
 #include "ui/meldungsfenster.h"

@@ -7,7 +7,6 @@
 #include <optional>
 
 #include "dateien/atomar.h"
-#include "dateien/dateifehler.h"
 #include "output/formdruck.h"
 #include "output/formdruckdialog.h"
 #include "output/formfortschritt.h"
@@ -15,6 +14,7 @@
 #include "output/htmlbericht.h"
 #include "output/rtfbericht.h"
 #include "ui/dateidialog.h"
+#include "ui/geschuetzt.h"
 #include "ui/meldungsfenster.h"
 
 namespace zinfolio {
@@ -27,14 +27,6 @@ constexpr qsizetype laengeDerEndung = 4;
 
 using Abbruch = Fortschrittsfenster::Abbruch;
 
-/// Asks before a file is overwritten that the dialog has not asked about.
-bool DarfWerden(QWidget* fenster, const fs::path& datei, const fs::path& gewaehlt) {
-    std::error_code unwichtig;
-    if (datei == gewaehlt || !fs::exists(datei, unwichtig)) return true;
-    return Fragen(fenster, {.text = "Die Datei \"" + QString::fromStdString(datei.string()) +
-                                    "\" gibt es schon.\nSoll sie überschrieben werden?"});
-}
-
 /// The file to write, with the ending without its point; nothing where the user cancelled.
 std::optional<fs::path> NachNamenFragen(const Exportauftrag& auftrag, const QString& endung) {
     const auto gewaehlt =
@@ -45,18 +37,8 @@ std::optional<fs::path> NachNamenFragen(const Exportauftrag& auftrag, const QStr
                      .vorgabe = auftrag.projektordner.isEmpty() ? QString() : auftrag.projektordner + '/'});
     if (!gewaehlt || gewaehlt->empty()) return std::nullopt;
     fs::path datei = Exportname(*gewaehlt, '.' + endung);
-    if (!DarfWerden(auftrag.fenster, datei, *gewaehlt)) return std::nullopt;
+    if (datei != *gewaehlt && !DarfUeberschreiben(auftrag.fenster, datei)) return std::nullopt;
     return datei;
-}
-
-/// Runs what writes files, and tells the user where one cannot be written.
-template <class Operation>
-void MitMeldung(QWidget* fenster, const Operation& operation) {
-    try {
-        operation();
-    } catch (const Dateifehler& fehler) {
-        MeldungZeigen(fenster, {.text = QString::fromUtf8(fehler.what())});
-    }
 }
 
 /// The report as a text of its kind; nothing where the user cancelled.
@@ -88,7 +70,7 @@ void DruckerExport(const Exportauftrag& auftrag, const Seitenmaler& maler) {
 }
 
 void PdfExport(const Exportauftrag& auftrag, const Seitenmaler& maler) {
-    MitMeldung(auftrag.fenster, [&] {
+    MitSchreibmeldung(auftrag.fenster, [&] {
         const auto datei = NachNamenFragen(auftrag, "pdf");
         if (!datei) return;
         Fortschrittsfenster anzeige(auftrag.fenster, "Die PDF-Datei wird geschrieben …", Abbruch::moeglich);
@@ -98,7 +80,7 @@ void PdfExport(const Exportauftrag& auftrag, const Seitenmaler& maler) {
 
 void TextExport(const Exportauftrag& auftrag, Exportziel ziel, const Bericht& bericht) {
     const QString endung = ziel == Exportziel::rtf ? "rtf" : "htm";
-    MitMeldung(auftrag.fenster, [&] {
+    MitSchreibmeldung(auftrag.fenster, [&] {
         const auto text = AlsText(auftrag.fenster, ziel, bericht);
         if (!text) return;
         AtomarSchreiben(auftrag.arbeitsordner / ("Zwispei." + endung.toStdString()), *text,

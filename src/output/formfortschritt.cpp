@@ -13,7 +13,8 @@ constexpr qint64 takt = 40;
 }  // namespace
 
 Fortschrittsfenster::Fortschrittsfenster(QWidget* fenster, const QString& text, Abbruch abbruch)
-    : dialog_(text, abbruch == Abbruch::moeglich ? "Abbrechen" : QString(), 0, 1, fenster) {
+    : abbruch_(abbruch),
+      dialog_(text, abbruch == Abbruch::moeglich ? "Abbrechen" : QString(), 0, 1, fenster) {
     dialog_.setObjectName("Fortschritt");
     dialog_.setWindowTitle("Export");
     dialog_.setWindowModality(Qt::ApplicationModal);
@@ -30,13 +31,19 @@ Fortschritt Fortschrittsfenster::Zuhoerer() {
 
 bool Fortschrittsfenster::Melden(std::size_t erledigt, std::size_t von) {
     const qint64 jetzt = uhr_.elapsed();
-    if (jetzt < anlaufzeit || jetzt - zuletzt_ < takt) return !dialog_.wasCanceled();
+    if (jetzt < anlaufzeit || jetzt - zuletzt_ < takt) return !Abgebrochen();
     zuletzt_ = jetzt;
+    // Closed by its frame it would be gone, and the windows behind it open for keys in the middle of it all.
+    if (dialog_.wasCanceled() && abbruch_ == Abbruch::unmoeglich) dialog_.reset();
     if (!dialog_.isVisible() && !dialog_.wasCanceled()) dialog_.show();
     dialog_.setMaximum(static_cast<int>(von));
     dialog_.setValue(static_cast<int>(erledigt));
     QCoreApplication::processEvents();
-    return !dialog_.wasCanceled();
+    return !Abgebrochen();
+}
+
+bool Fortschrittsfenster::Abgebrochen() const {
+    return abbruch_ == Abbruch::moeglich && dialog_.wasCanceled();
 }
 
 }  // namespace zinfolio

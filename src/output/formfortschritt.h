@@ -25,6 +25,9 @@ class Fortschrittsfenster {
   private:
     bool Melden(std::size_t erledigt, std::size_t von);
 
+    [[nodiscard]] bool Abgebrochen() const;
+
+    Abbruch abbruch_;
     QProgressDialog dialog_;
     QElapsedTimer uhr_;
     qint64 zuletzt_ = 0;

@@ -81,8 +81,9 @@ std::optional<Textverarbeitung> AusEintrag(const Schreibtischangaben& angaben, c
 
 /// The entry with that name, such as "writer.desktop", in the first folder that has it.
 std::optional<path> Eintrag(const Schreibtischangaben& angaben, const std::string& name) {
+    std::error_code egal;
     for (const path& ordner : angaben.datenordner) {
-        if (exists(ordner / "applications" / name)) return ordner / "applications" / name;
+        if (exists(ordner / "applications" / name, egal)) return ordner / "applications" / name;
     }
     return std::nullopt;
 }

@@ -33,7 +33,8 @@ void TextberichtSchreiben(const std::filesystem::path& arbeitsordner, const Text
 
 std::string TextberichtLesen(const std::filesystem::path& arbeitsordner) {
     const auto datei = arbeitsordner / textberichtsdatei;
-    if (!std::filesystem::exists(datei)) return {};
+    std::error_code fehler;
+    if (!std::filesystem::exists(datei, fehler) && !fehler) return {};
     std::string text = OhneWagenruecklauf(NachUtf8(GanzeDateiLesen(datei, groessterText)));
     if (!text.empty() && text.back() != '\n') text += '\n';
     return text;

@@ -79,6 +79,7 @@ class Form48000 : public QMainWindow {
     /// True where the account is saved afterwards.
     bool Speichern();
     bool SpeichernUnter();
+    bool EinstellungenSchreiben();
     bool ProjektSchreiben(const std::filesystem::path& datei);
     [[nodiscard]] std::string NotizenAlsDatei() const;
     void NotizenZeigen(std::string datei, Anlass anlass);

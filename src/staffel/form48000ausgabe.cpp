@@ -41,15 +41,20 @@ void Form48000::EffektivzinsDrucken() {
 }
 
 void Form48000::GrafikZeigen() {
-    GeschuetztMitWartezeiger(this, [this] {
+    std::optional<Ablehnung> ablehnung;
+    GeschuetztMitWartezeiger(this, [&] {
         auto ergebnis = Kontodiagramm(berechnung_->Loesung());
-        if (const auto* ablehnung = std::get_if<Ablehnung>(&ergebnis)) return Ablehnen(*ablehnung);
+        if (auto* grund = std::get_if<Ablehnung>(&ergebnis)) {
+            ablehnung = std::move(*grund);
+            return;
+        }
         berechnung_->KurzformWaehlen();
         auto& diagramm = std::get<Diagramm>(ergebnis);
         diagramm.titel = Projektname().toStdString();
         diagramm_->Zeigen(diagramm);
         mitte_->setCurrentWidget(diagramm_);
     });
+    if (ablehnung) Ablehnen(*ablehnung);
 }
 
 void Form48000::Vorschau(const std::function<Bericht()>& bilden) {

@@ -4,7 +4,6 @@
 #include <QStackedWidget>
 #include <QTabWidget>
 
-#include "dateien/dateifehler.h"
 #include "richtext/rtflesen.h"
 #include "richtext/rtfschreiben.h"
 #include "staffel/form48000.h"
@@ -23,7 +22,10 @@
 namespace zinfolio {
 namespace {
 
-const Meldungsinhalt speicherfrage{.text = "Speichern ?", .titel = "Speichern"};
+constexpr const char* nichtGespeichert = "Das Konto konnte nicht gespeichert werden.\n\n";
+Meldungsinhalt Speicherfrage() {
+    return {.text = "Speichern ?", .titel = "Speichern"};
+}
 
 Dateifrage Projektfrage(Dateifrage::Zweck zweck, const std::optional<std::filesystem::path>& projekt) {
     return {
@@ -83,29 +85,34 @@ void Form48000::Laden(const std::filesystem::path& datei, Anlass anlass) {
         zahlungen_->KontoWechseln();
         zinssaetze_->KontoWechseln();
     });
+    berechnung_->Leeren();
+    berechnung_->EffektivzinsVerbergen();
+    TabStrip1_->setCurrentIndex(zahlungen);
+    setWindowModified(true);
 }
 
 bool Form48000::Speichern() {
-    if (!DatumSteht()) return false;
-    return projekt_ ? ProjektSchreiben(*projekt_) : SpeichernUnter();
+    if (!projekt_) return SpeichernUnter();
+    return DatumSteht() && EinstellungenSchreiben() && ProjektSchreiben(*projekt_);
 }
 
 bool Form48000::SpeichernUnter() {
-    if (!DatumSteht()) return false;
+    if (!DatumSteht() || !EinstellungenSchreiben()) return false;
     const auto datei = DateiFragen(this, Projektfrage(Dateifrage::Zweck::speichern, projekt_));
     return datei && ProjektSchreiben(*datei);
 }
 
+bool Form48000::EinstellungenSchreiben() {
+    return MitSchreibmeldung(
+        this, [this] { KontoeinstellungenSchreiben(dateien_.Ordner(), zinsverrechnung_->Lesen()); },
+        nichtGespeichert);
+}
+
 bool Form48000::ProjektSchreiben(const std::filesystem::path& datei) {
     std::string notiz = NotizenAlsDatei();
-    try {
-        KontoeinstellungenSchreiben(dateien_.Ordner(), zinsverrechnung_->Lesen());
-        KontoprojektSpeichern(dateien_.Ordner(), datei, notiz);
-    } catch (const Dateifehler& fehler) {
-        MeldungZeigen(this, {.text = QString("Das Konto konnte nicht gespeichert werden.\n\n") +
-                                     QString::fromUtf8(fehler.what())});
-        return false;
-    }
+    const bool geschrieben = MitSchreibmeldung(
+        this, [&] { KontoprojektSpeichern(dateien_.Ordner(), datei, notiz); }, nichtGespeichert);
+    if (!geschrieben) return false;
     notizdatei_ = std::move(notiz);
     Laden(datei, Anlass::wiederladen);
     return true;
@@ -125,13 +132,13 @@ void Form48000::NotizenZeigen(std::string datei, Anlass anlass) {
 
 bool Form48000::AufgebenGewollt() {
     if (!isWindowModified()) return true;
-    const Antwort antwort = FragenMitAbbruch(this, speicherfrage);
+    const Antwort antwort = FragenMitAbbruch(this, Speicherfrage());
     return antwort == Antwort::nein || (antwort == Antwort::ja && Speichern());
 }
 
 bool Form48000::VerlassenGewollt() {
-    Geschuetzt(this, [this] { KontoeinstellungenSchreiben(dateien_.Ordner(), zinsverrechnung_->Lesen()); });
-    const Antwort antwort = FragenMitAbbruch(this, speicherfrage);
+    EinstellungenSchreiben();
+    const Antwort antwort = FragenMitAbbruch(this, Speicherfrage());
     if (antwort != Antwort::ja) return antwort == Antwort::nein;
     const bool sortiert = Geschuetzt(this, [this] {
         std::vector<Staffelsatz> saetze = dateien_.Zahlungen().Lesen();

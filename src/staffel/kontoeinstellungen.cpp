@@ -47,7 +47,8 @@ void KontoeinstellungenSchreiben(const std::filesystem::path& ordner,
 Kontoeinstellungswerte KontoeinstellungenLesen(const std::filesystem::path& ordner, std::string_view name) {
     const Satzdatei<Einstellungssatz> datei(ordner, name);
     // Reading would create the file; a new account has none until it is left or saved.
-    if (!std::filesystem::exists(datei.Pfad())) return {};
+    std::error_code fehler;
+    if (!std::filesystem::exists(datei.Pfad(), fehler) && !fehler) return {};
     const auto saetze = datei.Lesen();
     return {
         LiesAuswahl<Zinsverrechnungsart>(datei, saetze, 1, zinsverrechnungsarten.size()),

@@ -98,10 +98,6 @@ struct Kommandozeile {
     }
 };
 
-std::string Angefuehrt(std::string_view text) {
-    return "\"" + std::string(text) + "\"";
-}
-
 /// Refuses what no command or option has taken.
 void UeberzaehligesAblehnen(const CLI::App& app) {
     const auto ueberzaehlig = app.remaining(true);

@@ -1,6 +1,7 @@
 #include <filesystem>
 #include <memory>
 #include <new>
+#include <set>
 #include <system_error>
 #include <vector>
 
@@ -63,7 +64,10 @@ std::vector<fs::path> Eingaben(const Staffelaufruf& aufruf) {
 /// No mistyped call may destroy an account.
 void AusgabenPruefen(const Staffelaufruf& aufruf) {
     const std::vector<fs::path> eingaben = Eingaben(aufruf);
+    std::set<fs::path> vergeben;
     for (const std::string& ausgabe : {aufruf.ausgabe, aufruf.pdf, aufruf.rtf, aufruf.html}) {
+        if (!ausgabe.empty() && !vergeben.insert(fs::absolute(ausgabe).lexically_normal()).second)
+            throw Aufruffehler("Die Ausgabe \"" + ausgabe + "\" steht zweimal da.");
         for (const fs::path& eingabe : eingaben) {
             std::error_code egal;
             if (!ausgabe.empty() && fs::equivalent(ausgabe, eingabe, egal))

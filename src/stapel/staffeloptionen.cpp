@@ -62,10 +62,6 @@ std::string Aufzaehlung(const Liste& liste) {
     return text;
 }
 
-std::string Angefuehrt(std::string_view text) {
-    return "\"" + std::string(text) + "\"";
-}
-
 bool Steht(const CLI::Option* option) {
     return option->count() > 0;
 }

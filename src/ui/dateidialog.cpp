@@ -1,7 +1,10 @@
 #include "ui/dateidialog.h"
 
 #include <QFileDialog>
+#include <algorithm>
 #include <utility>
+
+#include "ui/meldungsfenster.h"
 
 namespace zinfolio {
 namespace {
@@ -23,7 +26,32 @@ void Vorgeben(QFileDialog& dialog, const QString& vorgabe) {
     dialog.selectFile(datei.fileName());
 }
 
+/// Whether a name has one of the endings of the filter: "*.png;*.svg" behind its bar.
+bool HatEndung(const QString& name, const QString& filter) {
+    const QStringList muster = filter.section('|', 1).split(';');
+    return std::any_of(muster.begin(), muster.end(), [&](const QString& eines) {
+        return name.endsWith(eines.mid(1), Qt::CaseInsensitive);
+    });
+}
+
+/// The name with its ending. The dialog itself completes only names without a point, and asks only about the
+/// name that it knows.
+std::optional<std::filesystem::path> MitEndung(QWidget* fenster, const Dateifrage& frage,
+                                               const QString& name) {
+    if (HatEndung(name, frage.filter)) return std::filesystem::path(name.toStdString());
+    const std::filesystem::path datei = (name + '.' + frage.endung).toStdString();
+    if (!DarfUeberschreiben(fenster, datei)) return std::nullopt;
+    return datei;
+}
+
 }  // namespace
+
+bool DarfUeberschreiben(QWidget* fenster, const std::filesystem::path& datei) {
+    std::error_code unwichtig;
+    if (!std::filesystem::exists(datei, unwichtig)) return true;
+    return Fragen(fenster, {.text = "Die Datei \"" + QString::fromStdString(datei.string()) +
+                                    "\" gibt es schon.\nSoll sie überschrieben werden?"});
+}
 
 std::optional<std::filesystem::path> DateiFragen(QWidget* fenster, const Dateifrage& frage) {
     if (Zeuge()) return Zeuge()(frage);
@@ -35,7 +63,9 @@ std::optional<std::filesystem::path> DateiFragen(QWidget* fenster, const Dateifr
     dialog.setDefaultSuffix(frage.endung);
     Vorgeben(dialog, frage.vorgabe);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
-    return std::filesystem::path(dialog.selectedFiles().constFirst().toStdString());
+    const QString name = dialog.selectedFiles().constFirst();
+    if (speichern) return MitEndung(fenster, frage, name);
+    return std::filesystem::path(name.toStdString());
 }
 
 Dateizeuge DateifragenUmleiten(Dateizeuge zeuge) {

@@ -18,7 +18,7 @@ struct Dateifrage {
     QString titel;
     /// As dialogs of old have it: "Zahlungsdateien (*.ZiS) |*.ZiS".
     QString filter;
-    /// What a name without an ending gets when saving: "ZiS".
+    /// The ending that a saved file has: "ZiS". A name without it gets it, also one that holds points.
     QString endung;
     /// The name that stands in the dialog at first; a whole path, a name, or empty.
     QString vorgabe = {};
@@ -27,6 +27,9 @@ struct Dateifrage {
 /// The file that the user chose, with its whole path; nothing where the dialog was cancelled. The current
 /// folder of the program is the same afterwards.
 [[nodiscard]] std::optional<std::filesystem::path> DateiFragen(QWidget* fenster, const Dateifrage& frage);
+
+/// Whether a file may be written: true where there is none, or where the user says so.
+[[nodiscard]] bool DarfUeberschreiben(QWidget* fenster, const std::filesystem::path& datei);
 
 /// What stands in for the user: is given each question and answers it.
 using Dateizeuge = std::function<std::optional<std::filesystem::path>(const Dateifrage&)>;

@@ -4,6 +4,7 @@
 #include <QCursor>
 #include <exception>
 
+#include "dateien/dateifehler.h"
 #include "dates/tage30.h"
 #include "staffel/meldungen.h"
 #include "ui/meldungsfenster.h"
@@ -34,6 +35,16 @@ bool Geschuetzt(QWidget* fenster, const std::function<void()>& operation) {
         QCoreApplication::exit(1);
     } catch (const std::exception& fehler) {
         AngabenFehler(fenster, QString::fromUtf8(fehler.what()));
+    }
+    return false;
+}
+
+bool MitSchreibmeldung(QWidget* fenster, const std::function<void()>& operation, const QString& vorspann) {
+    try {
+        operation();
+        return true;
+    } catch (const Dateifehler& fehler) {
+        MeldungZeigen(fenster, {.text = vorspann + QString::fromUtf8(fehler.what())});
     }
     return false;
 }

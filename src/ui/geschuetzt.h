@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <functional>
 
 class QWidget;
@@ -11,7 +12,12 @@ namespace zinfolio {
 /// shows its own message and ends the program at once.
 bool Geschuetzt(QWidget* fenster, const std::function<void()>& operation);
 
-/// The same, and a wait pointer while it runs.
+/// The trap of what writes a file that the user named: where it cannot be written, the user is told why,
+/// behind `vorspann`. False then. Other faults come through.
+bool MitSchreibmeldung(QWidget* fenster, const std::function<void()>& operation,
+                       const QString& vorspann = {});
+
+/// The same as `Geschuetzt`, and a wait pointer while it runs.
 bool GeschuetztMitWartezeiger(QWidget* fenster, const std::function<void()>& operation);
 
 }  // namespace zinfolio

@@ -1,6 +1,7 @@
 #include "ui/meldungsfenster.h"
 
 #include <QMessageBox>
+#include <utility>
 
 namespace zinfolio {
 namespace {

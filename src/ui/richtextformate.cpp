@@ -3,6 +3,7 @@
 #include <QFont>
 #include <QTextDocument>
 #include <QTextList>
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <utility>
