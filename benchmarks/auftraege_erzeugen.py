@@ -1,6 +1,8 @@
-"""Prints account jobs for measuring: ACCOUNTS lines with POSTINGS postings each, the same ones every time.
+"""Prints input for measuring, the same every time: jobs of accounts, jobs of payment series (each by one of the four
+methods in turn), or one account's payments as a table.
 
-Call: auftraege_erzeugen.py ACCOUNTS POSTINGS
+Call: auftraege_erzeugen.py konten|reihen JOBS ROWS
+      auftraege_erzeugen.py tabelle ROWS
 """
 
 import random
@@ -33,11 +35,38 @@ def konto(kennung, buchungen, zufall):
     )
 
 
+def reihe(kennung, zeilen, zufall):
+    """One job: monthly payments on any day of their month, then one that gives them back with a yield."""
+    zahlungen = []
+    summe = 0
+    for i in range(zeilen):
+        betrag = zufall.randint(10000, 90000) / 100
+        summe += betrag
+        betrag = -betrag if i + 1 < zeilen else summe * zufall.uniform(1.01, 1.3)
+        datum = f"{zufall.randint(1, 28):02}.{i % 12 + 1:02}.{2000 + i // 12}"
+        zahlungen.append(f'{{"Datum":"{datum}","Betrag":{betrag:.2f}}}')
+    return (
+        f'{{"id":{kennung},"rechnung":"reihe","Effektivmethode":{kennung % 4 + 1},'
+        f'"Zahlungen":[{",".join(zahlungen)}]}}'
+    )
+
+
+def tabelle(zeilen, zufall):
+    """The payments of an account as a table, two a day."""
+    yield "Datum;Betrag;Beschreibung"
+    for i in range(zeilen):
+        betrag = f"{zufall.randint(-90000, 110000) / 100:.2f}".replace(".", ",")
+        yield f"{tag(i // 2)};{betrag};Buchung {i + 1}"
+
+
 def hauptprogramm():
-    konten, buchungen = int(sys.argv[1]), int(sys.argv[2])
     zufall = random.Random(4711)
-    for kennung in range(1, konten + 1):
-        print(konto(kennung, buchungen, zufall))
+    if sys.argv[1] == "tabelle":
+        print("\n".join(tabelle(int(sys.argv[2]), zufall)))
+        return
+    auftrag = {"konten": konto, "reihen": reihe}[sys.argv[1]]
+    for kennung in range(1, int(sys.argv[2]) + 1):
+        print(auftrag(kennung, int(sys.argv[3]), zufall))
 
 
 if __name__ == "__main__":
