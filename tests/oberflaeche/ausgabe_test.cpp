@@ -5,7 +5,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <fstream>
-#include <sstream>
 
 #include "oberflaeche/kontoformular.h"
 #include "ui/deutsch.h"
@@ -16,13 +15,6 @@ using namespace zinfolio;
 namespace fs = std::filesystem;
 
 namespace {
-
-std::string Inhalt(const fs::path& datei) {
-    std::ifstream strom(datei, std::ios::binary);
-    std::ostringstream inhalt;
-    inhalt << strom.rdbuf();
-    return inhalt.str();
-}
 
 bool Enthaelt(const std::string& text, const char* teil) {
     return text.find(teil) != std::string::npos;
@@ -45,15 +37,7 @@ class AusgabeTest : public QObject {
     void KontoRechnen() {
         Zahlung(*form_, "31.12.2006", "1000", "Einlage");
         Zahlung(*form_, "30.06.2007", "500", "Nachzahlung");
-        Waehle(*form_, Form48000::zinssaetze);
-        {
-            const Zeuge zeuge;
-            Fuelle(*form_, "Gültigdatum", "31.12.2006");
-            Fuelle(*form_, "Gutzins1", "10");
-            Fuelle(*form_, "Guthabenlinie", "9999999");
-            Fuelle(*form_, "Kreditlinie", "9999999");
-            Klicke(*form_, "speichern2");
-        }
+        Kondition(*form_);
         Waehle(*form_, Form48000::zinsverrechnung);
         Fuelle(*form_, "Kontodatum", "31.12.2007");
         Waehle(*form_, Form48000::berechnung);
@@ -126,6 +110,20 @@ class AusgabeTest : public QObject {
         QVERIFY(rtf.starts_with("{\\rtf1"));
         QVERIFY(Enthaelt(rtf, "1.625,00"));
         QCOMPARE(Inhalt(arbeit_->Pfad() / "Zwispei.rtf"), rtf);
+    }
+
+    void rtfNachDruckervorschauErsetztDieAlteZwispei() {
+        KontoRechnen();
+        Klicke(*form_, "Command13");
+        const std::string alt = "{\\rtf1 Auszug von gestern}" + std::string(1'000'000, ' ');
+        std::ofstream(arbeit_->Pfad() / "Zwispei.rtf", std::ios::binary) << alt;
+        Exportieren(2, ablage_->Pfad() / "Auszug.rtf");
+        const std::string neu = Inhalt(arbeit_->Pfad() / "Zwispei.rtf");
+        QVERIFY(neu.starts_with("{\\rtf1"));
+        QVERIFY(Enthaelt(neu, "1.625,00"));
+        QVERIFY(!Enthaelt(neu, "gestern"));
+        QVERIFY(neu.size() < alt.size());
+        QCOMPARE(Inhalt(ablage_->Pfad() / "Auszug.rtf"), neu);
     }
 
     void htmWirdInDerFestenDateiGebautUndDannKopiert() {

@@ -4,6 +4,8 @@
 
 #include <QTemporaryDir>
 #include <QtTest>
+#include <fstream>
+#include <sstream>
 
 #include "ui/dateidialog.h"
 #include "ui/meldungsfenster.h"
@@ -92,6 +94,14 @@ class Testordner {
   private:
     QTemporaryDir ordner_;
 };
+
+/// All the bytes of a file; empty where it cannot be read.
+inline std::string Inhalt(const std::filesystem::path& datei) {
+    std::ifstream strom(datei, std::ios::binary);
+    std::ostringstream inhalt;
+    inhalt << strom.rdbuf();
+    return inhalt.str();
+}
 
 /// Shows a window and waits until it can take keys.
 inline void Zeige(QWidget& fenster) {

@@ -55,4 +55,15 @@ inline void Zahlung(Form48000& form, const QString& datum, const QString& betrag
     Klicke(form, "Speichern");
 }
 
+/// A condition of 10 % from 31.12.2006 on, without limits that matter.
+inline void Kondition(Form48000& form) {
+    Waehle(form, Form48000::zinssaetze);
+    const Zeuge zeuge;
+    Fuelle(form, "Gültigdatum", "31.12.2006");
+    Fuelle(form, "Gutzins1", "10");
+    Fuelle(form, "Guthabenlinie", "9999999");
+    Fuelle(form, "Kreditlinie", "9999999");
+    Klicke(form, "speichern2");
+}
+
 }  // namespace zinfolio

@@ -7,7 +7,6 @@
 #include <QTextEdit>
 #include <fstream>
 #include <set>
-#include <sstream>
 
 #include "oberflaeche/kontoformular.h"
 #include "ui/deutsch.h"
@@ -18,13 +17,6 @@ using namespace zinfolio;
 namespace fs = std::filesystem;
 
 namespace {
-
-std::string Inhalt(const fs::path& datei) {
-    std::ifstream strom(datei, std::ios::binary);
-    std::ostringstream inhalt;
-    inhalt << strom.rdbuf();
-    return inhalt.str();
-}
 
 void Schreibe(const fs::path& datei, const std::string& inhalt) {
     std::ofstream(datei, std::ios::binary) << inhalt;

@@ -7,7 +7,6 @@
 #include <QProgressDialog>
 #include <QTimer>
 #include <fstream>
-#include <sstream>
 
 #include "oberflaeche/pdfhelfer.h"
 #include "oberflaeche/vorschauhelfer.h"
@@ -19,13 +18,6 @@ using namespace zinfolio;
 namespace fs = std::filesystem;
 
 namespace {
-
-std::string Inhalt(const fs::path& datei) {
-    std::ifstream strom(datei, std::ios::binary);
-    std::ostringstream inhalt;
-    inhalt << strom.rdbuf();
-    return inhalt.str();
-}
 
 /// Answers every print dialog while it lives.
 class Druckwahl {
@@ -111,7 +103,7 @@ class VorschauexportTest : public QObject {
         QVERIFY(fs::exists(v_->arbeit.Pfad() / "Zwispei.rtf"));
     }
 
-    void einOrdnerOhneSchreibrechtWirdGemeldet() {
+    void einFehlenderOrdnerWirdGemeldet() {
         for (const Exportziel ziel : {Exportziel::pdf, Exportziel::rtf}) {
             const Zeuge zeuge;
             Dateiwahl wahl;
@@ -122,7 +114,7 @@ class VorschauexportTest : public QObject {
         }
     }
 
-    void derLaufendeOrdnerBleibt() {
+    void derRtfExportLaesstDenLaufendenOrdner() {
         const fs::path vorher = fs::current_path();
         Dateiwahl wahl;
         wahl.antwort = v_->ablage.Pfad() / "Auszug.rtf";

@@ -26,6 +26,13 @@ class ZinsstaffelTest : public QObject {
     QString Summe(const char* name) { return Finde<QLabel>(form_.get(), name)->text(); }
     int Register() { return Finde<QTabWidget>(form_.get(), "TabStrip1")->currentIndex(); }
 
+    /// Brings a tab to the front without what selecting it does.
+    void OhneRechnungZeigen(Form48000::Register register_) {
+        auto* leiste = Finde<QTabWidget>(form_.get(), "TabStrip1");
+        const QSignalBlocker still(leiste);
+        leiste->setCurrentIndex(register_);
+    }
+
     /// 15 000 from 01.01.2007 on, 2 % and beyond 10 000 3 %, closed on 31.03.2007: 89 days of 360 bear
     /// 10 000 * 2 % * 89 / 360 + 5 000 * 3 % * 89 / 360 = 49,444... + 37,083... = 86,53.
     void Beispielkonto() {
@@ -60,6 +67,17 @@ class ZinsstaffelTest : public QObject {
         QCOMPARE(Finde<QComboBox>(form_.get(), "Combo1")->currentText(), "Jahresende");
         QCOMPARE(Finde<QComboBox>(form_.get(), "Combo3")->currentText(), "30/360 Tage : Deutsche Methode");
         QCOMPARE(form_->windowTitle(), "Zinsstaffelrechner[*]");
+        OhneRechnungZeigen(Form48000::berechnung);
+        QVERIFY(Finde<QComboBox>(form_.get(), "Combo6")->isVisible());
+        for (const char* name : {"Label26", "ezins", "Label28"})
+            QVERIFY2(!Finde<QLabel>(form_.get(), name)->isVisible(), name);
+        const std::vector<std::pair<const char*, QString>> hinweise{
+            {"Neu", "Neue Datei"},
+            {"Öffnen", "Datei öffnen"},
+            {"Schnellspeich", "Speichern"},
+            {"Auswertungen", "Zinsstaffel berechnen"}};
+        for (const auto& [name, hinweis] : hinweise)
+            QCOMPARE(Finde<QAction>(form_.get(), name)->toolTip(), hinweis);
     }
 
     void beispielkontoStimmtAufDenCent() {
