@@ -215,6 +215,24 @@ class AusgabeTest : public QObject {
         QCOMPARE(Text("EV"), "1.625,00");
     }
 
+    void grafikMitEinerZeileMeldetUndLaesstDieAnsicht() {
+        // A payment behind the closing date: the settlement on that day is the only row without conditions.
+        Zahlung(*form_, "01.07.2008", "1000");
+        Kondition(*form_);
+        Waehle(*form_, Form48000::zinsverrechnung);
+        Fuelle(*form_, "Kontodatum", "31.12.2007");
+        Waehle(*form_, Form48000::berechnung);
+        QCOMPARE(Zeilen(*form_, "Grid"), 1);
+        Ansicht(2);
+        const Zeuge zeuge;
+        Klicke(*form_, "Grafik");
+        QCOMPARE(zeuge.texte,
+                 QStringList("Es ist nur 1 Zahlung vorhanden. Eine Grafikanzeige ist daher nicht möglich."));
+        QVERIFY(!Rahmen("Frame6")->isVisible());
+        QVERIFY(Rahmen("Frame4")->isVisible());
+        QCOMPARE(Finde<QComboBox>(form_.get(), "Combo4")->currentIndex(), 2);
+    }
+
     void nachDerGrafikRechnetDieLeisteWieder() {
         KontoRechnen();
         Klicke(*form_, "Grafik");

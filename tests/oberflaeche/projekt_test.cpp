@@ -277,7 +277,7 @@ class ProjektTest : public QObject {
         QCOMPARE(Zeilen(*form_, "List1"), 2);
     }
 
-    void einOrdnerOhneSchreibrechtWirdGemeldetUndDasKontoBleibt() {
+    void einFehlenderOrdnerWirdGemeldetUndDasKontoBleibt() {
         KontoEingeben();
         const Zeuge zeuge;
         SpeichernAls("gibtesnicht/Konto.ZiS");
