@@ -16,8 +16,8 @@ cmake --build --preset release --target zinfolio zinfolio-cli
 
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
     echo "== zinfolio wird geöffnet"
-    exec build/release/src/shell/zinfolio "$@"
+    exec build/release/bin/zinfolio "$@"
 fi
 echo "== Kein Bildschirm gefunden (weder DISPLAY noch WAYLAND_DISPLAY ist gesetzt)."
 echo "   Statt des Fensters rechnet zinfolio-cli das Beispielkonto examples/konto.json:"
-exec build/release/src/stapel/zinfolio-cli rechne examples/konto.json
+exec build/release/bin/zinfolio-cli rechne examples/konto.json

@@ -3,9 +3,9 @@
 #include <benchmark/benchmark.h>
 #include <cstdint>
 
-#include "output/htmlbericht.h"
-#include "output/probebericht.h"
-#include "output/rtfbericht.h"
+#include "kern/bericht/htmlbericht.h"
+#include "kern/bericht/probebericht.h"
+#include "kern/bericht/rtfbericht.h"
 
 namespace {
 

@@ -8,9 +8,9 @@
 #include <QtTest>
 #include <benchmark/benchmark.h>
 
-#include "shell/form1.h"
-#include "staffel/form48000.h"
-#include "ui/deutsch.h"
+#include "fenster/staffel/form48000.h"
+#include "fenster/start/form1.h"
+#include "fenster/ui/deutsch.h"
 
 namespace {
 

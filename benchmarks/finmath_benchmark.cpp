@@ -9,15 +9,15 @@
 #include <string>
 #include <vector>
 
-#include "dates/zahl.h"
-#include "dates/zahlformat.h"
-#include "finmath/aufzinsung.h"
-#include "finmath/barwertfunktion.h"
-#include "finmath/bewertung.h"
-#include "finmath/effektivsuche.h"
-#include "finmath/herleitung.h"
-#include "finmath/reiheauswerten.h"
-#include "finmath/stellen15.h"
+#include "kern/dates/zahl.h"
+#include "kern/dates/zahlformat.h"
+#include "kern/finmath/aufzinsung.h"
+#include "kern/finmath/barwertfunktion.h"
+#include "kern/finmath/bewertung.h"
+#include "kern/finmath/effektivsuche.h"
+#include "kern/finmath/herleitung.h"
+#include "kern/finmath/reiheauswerten.h"
+#include "kern/finmath/stellen15.h"
 
 namespace zinfolio {
 namespace {

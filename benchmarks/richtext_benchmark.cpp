@@ -4,8 +4,8 @@
 #include <benchmark/benchmark.h>
 #include <string>
 
-#include "richtext/rtflesen.h"
-#include "richtext/rtfschreiben.h"
+#include "kern/richtext/rtflesen.h"
+#include "kern/richtext/rtfschreiben.h"
 
 namespace zinfolio {
 namespace {

@@ -7,8 +7,8 @@
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>
 
-#include "output/formpdf.h"
-#include "output/probebericht.h"
+#include "fenster/ausgabe/pdf.h"
+#include "kern/bericht/probebericht.h"
 
 namespace {
 

@@ -4,10 +4,10 @@
 #include <benchmark/benchmark.h>
 #include <random>
 
-#include "staffel/dateienmischen.h"
-#include "staffel/konto.h"
-#include "staffel/staffelberechnung.h"
-#include "staffel/staffelsortierung.h"
+#include "kern/staffel/dateienmischen.h"
+#include "kern/staffel/konto.h"
+#include "kern/staffel/staffelberechnung.h"
+#include "kern/staffel/staffelsortierung.h"
 
 namespace {
 

@@ -4,9 +4,9 @@
 #include <benchmark/benchmark.h>
 #include <string>
 
-#include "dates/datum.h"
-#include "stapel/auftragsrechner.h"
-#include "stapel/jsonzahl.h"
+#include "kern/dates/datum.h"
+#include "stapel/auftraege/auftragsrechner.h"
+#include "stapel/json/jsonzahl.h"
 
 namespace {
 

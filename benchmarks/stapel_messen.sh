@@ -2,12 +2,12 @@
 # Measures the whole program: start, one account of 30 000 postings, many accounts of 50 on one core and on all, many
 # payment series of 51 rows, and the PDF of an account's report.
 # Each figure is the best of several runs, so that what else the machine does disturbs little.
-#   benchmarks/stapel_messen.sh [PROGRAMM]     build/release/src/stapel/zinfolio-cli unless given
+#   benchmarks/stapel_messen.sh [PROGRAMM]     build/release/bin/zinfolio-cli unless given
 set -euo pipefail
 shopt -s inherit_errexit
 
 quellen="$(realpath "$(dirname "${BASH_SOURCE[0]}")/..")"
-programm="$(realpath "${1:-$quellen/build/release/src/stapel/zinfolio-cli}")"
+programm="$(realpath "${1:-$quellen/build/release/bin/zinfolio-cli}")"
 konten=20000
 reihen=10000
 buchungen=30000

@@ -4,6 +4,7 @@ set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 
 find_package(Threads REQUIRED)
 
@@ -26,9 +27,14 @@ if(ZINFOLIO_ABDECKUNG)
   target_link_options(zinfolio_hausregeln INTERFACE --coverage)
 endif()
 
-# A room: a static library with the sources given; LINKS names the rooms below it.
+# A room: a static library of all sources in its folder, or of those given by QUELLEN; OHNE names sources that belong
+# elsewhere, LINKS the rooms below it.
 function(zinfolio_raum name)
-  cmake_parse_arguments(RAUM "" "" "QUELLEN;LINKS" ${ARGN})
+  cmake_parse_arguments(RAUM "" "" "QUELLEN;OHNE;LINKS" ${ARGN})
+  if(NOT RAUM_QUELLEN)
+    file(GLOB RAUM_QUELLEN CONFIGURE_DEPENDS RELATIVE "${CMAKE_CURRENT_SOURCE_DIR}" "${CMAKE_CURRENT_SOURCE_DIR}/*.cpp")
+    list(REMOVE_ITEM RAUM_QUELLEN ${RAUM_OHNE} "")
+  endif()
   add_library(${name} STATIC ${RAUM_QUELLEN})
   target_link_libraries(${name} PUBLIC zinfolio_hausregeln ${RAUM_LINKS})
 endfunction()
@@ -40,9 +46,15 @@ if(ZINFOLIO_SANITIZER)
   list(APPEND zinfolio_testoptionen -fno-sanitize=undefined)
 endif()
 
-# A GoogleTest program for one room, run by ctest under its own name.
+# A GoogleTest program for one room, run by ctest under its own name: all sources in its folder but probes, or those
+# given by QUELLEN; OHNE names sources that belong elsewhere.
 function(zinfolio_test name)
-  cmake_parse_arguments(TEST "" "" "QUELLEN;LINKS" ${ARGN})
+  cmake_parse_arguments(TEST "" "" "QUELLEN;OHNE;LINKS" ${ARGN})
+  if(NOT TEST_QUELLEN)
+    file(GLOB TEST_QUELLEN CONFIGURE_DEPENDS RELATIVE "${CMAKE_CURRENT_SOURCE_DIR}" "${CMAKE_CURRENT_SOURCE_DIR}/*.cpp")
+    list(FILTER TEST_QUELLEN EXCLUDE REGEX "_probe\\.cpp$")
+    list(REMOVE_ITEM TEST_QUELLEN ${TEST_OHNE} "")
+  endif()
   add_executable(${name} ${TEST_QUELLEN})
   target_link_libraries(${name} PRIVATE zinfolio_hausregeln ${TEST_LINKS} GTest::gmock GTest::gtest_main)
   target_include_directories(${name} PRIVATE "${CMAKE_SOURCE_DIR}/tests")

@@ -3,7 +3,7 @@
 #include <fstream>
 #include <string>
 
-#include "output/bericht.h"
+#include "kern/bericht/bericht.h"
 
 extern "C" int ZinfolioBerichtAlsPdf(const zinfolio::Bericht* bericht, const char* datei,
                                      std::string* fehler) {

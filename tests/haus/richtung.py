@@ -9,33 +9,46 @@ import re
 import sys
 from pathlib import Path
 
-# Which rooms a room may know besides itself, lowest room first. The forms lie in the folders of their core,
-# and are told apart by the name of their file.
-KERN = ("dateien", "dates", "richtext", "output", "staffel", "finmath", "sparen", "allround", "tabellen")
-RECHNER = ("dateien", "dates", "richtext", "output", "staffel", "finmath")
-RAEUME = {
-    "dateien": (),
-    "dates": (),
-    "richtext": ("dateien",),
-    "output": ("dateien", "dates", "richtext"),
-    "staffel": ("dateien", "dates", "richtext", "output"),
-    "finmath": ("dateien", "dates", "output", "staffel"),
-    "sparen": RECHNER,
-    "allround": RECHNER,
-    "tabellen": RECHNER,
-    "stapel": KERN,
-    "ui": ("dateien", "dates", "richtext", "output", "staffel"),
-    "formen": KERN + ("ui",),
-    "shell": KERN + ("ui", "formen"),
-}
-FORMNAME = re.compile(r"form(?!at|el)")
-ORDNER_MIT_FORMEN = ("staffel", "sparen", "allround", "tabellen", "output")
+# Which rooms a room may know besides itself. A room is a folder below its wing; each is listed after those it knows,
+# so that the table itself has no circle.
+RAEUME = {}
 
-# Foreign headers, and the rooms that may include them.
+
+def _raum(name, *kennt):
+    """Enters a room; what it knows must stand in the table already."""
+    RAEUME[name] = frozenset(kennt)
+    assert RAEUME[name] <= RAEUME.keys(), name
+
+
+_raum("kern/grund")
+_raum("kern/dateien", "kern/grund")
+_raum("kern/dates", "kern/grund")
+_raum("kern/richtext", "kern/grund")
+_raum("kern/bericht", "kern/grund", "kern/dateien", "kern/dates", "kern/richtext")
+_raum("kern/finmath", "kern/grund", "kern/dateien", "kern/dates")
+_UNTEN = tuple(RAEUME)
+_raum("kern/staffel", *_UNTEN)
+_RECHNER = tuple(RAEUME)
+_raum("kern/sparen", *_RECHNER)
+_raum("kern/allround", *_RECHNER)
+_raum("kern/tabellen", *_RECHNER)
+_KERN = tuple(RAEUME)
+_raum("stapel/json", "kern/grund", "kern/dates")
+_raum("stapel/auftraege", *_KERN, "stapel/json")
+_raum("stapel/befehle", *_KERN, "stapel/json", "stapel/auftraege")
+_raum("fenster/ui", "kern/grund", "kern/dateien", "kern/dates", "kern/richtext", "kern/bericht")
+_raum("fenster/ausgabe", "kern/grund", "kern/dateien", "kern/dates", "kern/richtext", "kern/bericht", "fenster/ui")
+_RAHMEN = ("fenster/ui", "fenster/ausgabe")
+_raum("fenster/rechner", *_UNTEN, *_RAHMEN)
+for _rechner in ("staffel", "sparen", "allround", "tabellen"):
+    _raum(f"fenster/{_rechner}", *_KERN, *_RAHMEN, "fenster/rechner")
+_raum("fenster/start", *(raum for raum in RAEUME if not raum.startswith("stapel/")))
+
+# Foreign headers, and the rooms or wings that may include them.
 FREMD = (
-    (re.compile(r"Q[A-Z]|Qt[A-Z]|qcustomplot|ui_\w+\.h$|\w+\.moc$|moc_\w+\.cpp$"), ("ui", "formen", "shell")),
-    (re.compile(r"simdjson\.h$|CLI/|fmt/"), ("stapel",)),
-    (re.compile(r"(fcntl|pwd|unistd|sys/stat|sys/types|sys/file|sys/mman|sys/random|malloc|dlfcn)\.h$"), ("dateien", "stapel")),
+    (re.compile(r"Q[A-Z]|Qt[A-Z]|qcustomplot|ui_\w+\.h$|\w+\.moc$|moc_\w+\.cpp$"), ("fenster",)),
+    (re.compile(r"simdjson\.h$|CLI/"), ("stapel",)),
+    (re.compile(r"(fcntl|pwd|unistd|sys/stat|sys/types|sys/file|sys/mman|sys/random|malloc|dlfcn)\.h$"), ("kern/dateien", "stapel")),
 )
 STANDARDKOPF = re.compile(r"[a-z_0-9]+$")
 
@@ -45,19 +58,15 @@ ENDUNGEN = (".h", ".hpp", ".hxx", ".hh", ".cpp", ".cxx", ".cc")
 
 def raum(pfad):
     """The room of a path relative to src/, or None."""
-    if len(pfad.parts) < 2:
-        return None
-    ordner = pfad.parts[0]
-    if ordner in ORDNER_MIT_FORMEN and FORMNAME.match(pfad.name):
-        return "formen"
-    return ordner if ordner in RAEUME and ordner != "formen" else None
+    ordner = "/".join(pfad.parts[:2])
+    return ordner if len(pfad.parts) > 2 and ordner in RAEUME else None
 
 
 def fremdverstoss(von, kopf):
     """What is wrong with including a header that is none of ours, or None."""
     for muster, erlaubt in FREMD:
         if muster.match(kopf):
-            return None if von in erlaubt else f"{von} darf {kopf} nicht kennen"
+            return None if von in erlaubt or von.split("/")[0] in erlaubt else f"{von} darf {kopf} nicht kennen"
     return None if STANDARDKOPF.match(kopf) else f"unbekannter fremder Kopf {kopf}"
 
 
@@ -81,13 +90,13 @@ def verstoss(src, datei, von, zitiert, spitz):
     return None if nach == von or nach in RAEUME[von] else f"{von} darf {nach} nicht kennen ({ziel})"
 
 
-def kopf_nicht_zuerst(datei, includes):
+def kopf_nicht_zuerst(datei, von, includes):
     """What is wrong with the place of a source's own header among its includes, or None."""
     eigen = datei.with_suffix(".h")
     if datei.suffix != ".cpp" or not eigen.is_file():
         return None
     erster = includes[0][1] if includes else ""
-    return None if erster in (eigen.name, f"{datei.parent.name}/{eigen.name}") else f"schließt {eigen.name} nicht zuerst ein"
+    return None if erster in (eigen.name, f"{von}/{eigen.name}") else f"schließt {eigen.name} nicht zuerst ein"
 
 
 def includes_von(datei):
@@ -110,7 +119,7 @@ def pruefe(src):
             gefunden.append(f"{pfad}: liegt in keinem bekannten Raum")
             continue
         includes = includes_von(datei)
-        if grund := kopf_nicht_zuerst(datei, includes):
+        if grund := kopf_nicht_zuerst(datei, von, includes):
             gefunden.append(f"{pfad}: {grund}")
         for nummer, zitiert, spitz in includes:
             if grund := verstoss(src, datei, von, zitiert, spitz):

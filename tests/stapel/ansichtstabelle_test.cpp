@@ -1,10 +1,10 @@
-#include "stapel/ansichtstabelle.h"
+#include "stapel/befehle/ansichtstabelle.h"
 
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
 
-#include "staffel/beispielkonto.h"
+#include "kern/staffel/beispielkonto.h"
 
 namespace zinfolio {
 namespace {

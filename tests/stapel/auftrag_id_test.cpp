@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "rechnen.h"
-#include "stapel/jsonid.h"
+#include "stapel/json/jsonid.h"
 
 namespace zinfolio {
 namespace {

@@ -1,4 +1,4 @@
-#include "stapel/csvlesen.h"
+#include "stapel/befehle/csvlesen.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "stapel/fliessband.h"
+#include "stapel/befehle/fliessband.h"
 
 #include <chrono>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "stapel/jsoneinzug.h"
+#include "stapel/json/jsoneinzug.h"
 
 #include <gtest/gtest.h>
 

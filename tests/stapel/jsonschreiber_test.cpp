@@ -1,4 +1,4 @@
-#include "stapel/jsonschreiber.h"
+#include "stapel/json/jsonschreiber.h"
 
 #include <gtest/gtest.h>
 #include <limits>

@@ -1,4 +1,4 @@
-#include "stapel/jsonzahl.h"
+#include "stapel/json/jsonzahl.h"
 
 #include <array>
 #include <bit>

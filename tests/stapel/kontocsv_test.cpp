@@ -1,11 +1,11 @@
-#include "stapel/kontocsv.h"
+#include "stapel/befehle/kontocsv.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <ostream>
 #include <string>
 
-#include "staffel/beispielkonto.h"
+#include "kern/staffel/beispielkonto.h"
 
 namespace zinfolio {
 namespace {

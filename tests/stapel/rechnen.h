@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "stapel/auftragsrechner.h"
+#include "stapel/auftraege/auftragsrechner.h"
 
 namespace zinfolio {
 

@@ -1,4 +1,4 @@
-#include "stapel/stapelverarbeitung.h"
+#include "stapel/befehle/stapelverarbeitung.h"
 
 #include <algorithm>
 #include <chrono>

@@ -1,11 +1,11 @@
-#include "stapel/zeilenleser.h"
+#include "stapel/befehle/zeilenleser.h"
 
 #include <algorithm>
 #include <cstring>
 #include <gtest/gtest.h>
 #include <vector>
 
-#include "stapel/jsonleser.h"
+#include "stapel/json/jsonleser.h"
 
 namespace zinfolio {
 namespace {

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QWidget>
+
+#include "kern/bericht/diagramm.h"
+
+class QPrinter;
+
+namespace zinfolio {
+
+class Diagrammplot;
+struct Diagrammausschnitt;
+
+/// The frame with a chart: it is drawn in the window's colours, and printed, saved and copied on white.
+class FormDiagramm : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit FormDiagramm(QWidget* eltern = nullptr);
+
+    /// Shows a chart, all of its rows.
+    void Zeigen(const Diagramm& diagramm);
+
+    /// Prints what is shown on one page. False where the printer refuses.
+    [[nodiscard]] bool Ausdrucken(QPrinter& drucker) const;
+
+  signals:
+    /// The user has seen enough of the chart.
+    void zurueck();
+
+  protected:
+    void changeEvent(QEvent* ereignis) override;
+
+  private:
+    void BefehleAnlegen();
+    void Faerben();
+    void Drucken();
+    void BildSpeichern();
+    void BildKopieren() const;
+    [[nodiscard]] Diagrammausschnitt Ausschnitt() const;
+
+    Diagrammplot* Chart_;
+};
+
+}  // namespace zinfolio

@@ -1,0 +1,114 @@
+#include "fenster/staffel/formsatzliste.h"
+
+#include <QAction>
+#include <algorithm>
+#include <numeric>
+
+#include "fenster/ui/geschuetzt.h"
+#include "fenster/ui/meldungsfenster.h"
+#include "kern/staffel/meldungen.h"
+
+namespace zinfolio {
+
+FormSatzliste::FormSatzliste(const Satzlistenart& art, const Satzdatei<Staffelsatz>& datei, QWidget* eltern)
+    : QObject(eltern),
+      art_(art),
+      datei_(datei),
+      tabelle_(new Tabelle(art.name, eltern)),
+      rueckgaengig_(new QAction("Löschen &rückgängig", this)) {
+    rueckgaengig_->setObjectName("LöschenRückgängig");
+    rueckgaengig_->setEnabled(false);
+    tabelle_->addAction(rueckgaengig_);
+    connect(rueckgaengig_, &QAction::triggered, this,
+            [this] { Geschuetzt(tabelle_, [this] { LoeschenRueckgaengig(); }); });
+}
+
+void FormSatzliste::NeuLesen() {
+    const auto vorher = geaendert_ ? std::optional(saetze_.at(*geaendert_)) : std::nullopt;
+    saetze_ = datei_.Lesen();
+    if (vorher) geaendert_ = Stelle(*vorher);
+    Zeigen();
+    tabelle_->Markiere(static_cast<int>(saetze_.size()) - 1);
+    nachLesen();
+}
+
+std::optional<std::size_t> FormSatzliste::Stelle(const Staffelsatz& satz) const {
+    const auto treffer = std::find(saetze_.begin(), saetze_.end(), satz);
+    if (treffer == saetze_.end()) return std::nullopt;
+    return static_cast<std::size_t>(treffer - saetze_.begin());
+}
+
+void FormSatzliste::KontoWechseln() {
+    geloescht_.clear();
+    rueckgaengig_->setEnabled(false);
+    geaendert_.reset();
+    NeuLesen();
+}
+
+void FormSatzliste::Ersetzen(const std::vector<Staffelsatz>& saetze) {
+    datei_.Schreiben(saetze);
+    NeuLesen();
+    nachAendern();
+}
+
+void FormSatzliste::Zeigen() {
+    tabelle_->Zeige({
+        .spalten = art_.spalten,
+        .zeilen = static_cast<int>(saetze_.size()),
+        .zelle =
+            [this](int zeile, int spalte) {
+                return QString::fromStdString(art_.zelle(saetze_[static_cast<std::size_t>(zeile)], spalte));
+            },
+        .zeilentext =
+            [this](int zeile) {
+                return QString::fromStdString(art_.zeile(saetze_[static_cast<std::size_t>(zeile)]));
+            },
+    });
+}
+
+bool FormSatzliste::AenderungBeginnen() {
+    const auto zeilen = tabelle_->MarkierteZeilen();
+    if (!zeilen.empty()) {
+        geaendert_ = zeilen.front();
+        return true;
+    }
+    MeldungZeigen(
+        tabelle_,
+        {.text = Anzeigetext(meldung::nichtsMarkiert), .titel = Anzeigetext(meldung::titelMarkieren)},
+        Meldungsart::hinweis);
+    return false;
+}
+
+void FormSatzliste::MarkierteLoeschen() {
+    auto zeilen = tabelle_->MarkierteZeilen();
+    const bool alle = zeilen.empty();
+    const Meldungsinhalt frage{
+        .text = Anzeigetext(alle ? meldung::alleLoeschen : art_.loeschfrage),
+        .titel = Anzeigetext(alle ? meldung::titelMarkieren : meldung::titelLoeschen),
+    };
+    if (!Fragen(tabelle_, frage)) return;
+    if (alle) {
+        zeilen.resize(saetze_.size());
+        std::iota(zeilen.begin(), zeilen.end(), std::size_t{0});
+    }
+    Loeschen(zeilen);
+}
+
+void FormSatzliste::Loeschen(const std::vector<std::size_t>& zeilen) {
+    std::vector<Staffelsatz> saetze = saetze_;
+    Loeschung loeschung = SaetzeLoeschen(saetze, zeilen);
+    Ersetzen(saetze);
+    if (!loeschung.saetze.empty()) geloescht_.push_back(std::move(loeschung));
+    rueckgaengig_->setEnabled(!geloescht_.empty());
+}
+
+void FormSatzliste::LoeschenRueckgaengig() {
+    std::vector<Staffelsatz> saetze = saetze_;
+    LoeschungZuruecknehmen(saetze, geloescht_.back());
+    ordnen(saetze);
+    Ersetzen(saetze);
+    geloescht_.pop_back();
+    rueckgaengig_->setEnabled(!geloescht_.empty());
+}
+
+}  // namespace zinfolio

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <QObject>
+#include <functional>
+#include <optional>
+#include <vector>
+
+#include "fenster/ui/tabelle.h"
+#include "kern/dateien/satzdatei.h"
+#include "kern/staffel/satzliste.h"
+
+namespace zinfolio {
+
+/// What tells one list of rows from another.
+struct Satzlistenart {
+    QString name;
+    std::vector<Tabellenspalte> spalten;
+    /// The text of a cell, and of a whole row for screen readers.
+    std::function<std::string(const Staffelsatz&, int spalte)> zelle;
+    std::string (*zeile)(const Staffelsatz&);
+    std::string_view loeschfrage;
+};
+
+/// The list of the rows of one working file: the number of a list row is the number of its record. Deletes
+/// marked rows after a question, and brings them back from the list's context menu as long as it lives.
+class FormSatzliste : public QObject {
+    Q_OBJECT
+
+  public:
+    FormSatzliste(const Satzlistenart& art, const Satzdatei<Staffelsatz>& datei, QWidget* eltern);
+
+    [[nodiscard]] Tabelle* Ansicht() const { return tabelle_; }
+    [[nodiscard]] const std::vector<Staffelsatz>& Saetze() const { return saetze_; }
+
+    /// Reads the file and shows it, with its last row selected. A row under change follows its record.
+    void NeuLesen();
+
+    /// Another account stands in the file: reads it, and nothing deleted before comes back.
+    void KontoWechseln();
+
+    /// Makes these rows the file's content and shows them; shows what the file holds also where writing
+    /// fails, and passes the fault on.
+    void Ersetzen(const std::vector<Staffelsatz>& saetze);
+
+    /// Puts the marked row under change; a message, and false, where there is none.
+    bool AenderungBeginnen();
+    void AenderungBeenden() { geaendert_.reset(); }
+
+    /// The row under change, if there is one.
+    [[nodiscard]] std::optional<std::size_t> Geaendert() const { return geaendert_; }
+
+    /// Deletes the marked rows, or all, after the question that belongs to it.
+    void MarkierteLoeschen();
+
+    /// Called each time the list has been built from the file.
+    std::function<void()> nachLesen = [] {};
+
+    /// Called when the user has made other rows the file's content.
+    std::function<void()> nachAendern = [] {};
+
+    /// Brings the rows into the order that the file keeps, after deleted ones have come back.
+    std::function<void(std::vector<Staffelsatz>&)> ordnen = [](auto&) {};
+
+  private:
+    [[nodiscard]] std::optional<std::size_t> Stelle(const Staffelsatz& satz) const;
+    void Zeigen();
+    void Loeschen(const std::vector<std::size_t>& zeilen);
+    void LoeschenRueckgaengig();
+
+    Satzlistenart art_;
+    Satzdatei<Staffelsatz> datei_;
+    Tabelle* tabelle_;
+    QAction* rueckgaengig_;
+    std::vector<Staffelsatz> saetze_;
+    std::vector<Loeschung> geloescht_;
+    std::optional<std::size_t> geaendert_;
+};
+
+}  // namespace zinfolio

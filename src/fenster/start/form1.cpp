@@ -1,0 +1,175 @@
+#include "fenster/start/form1.h"
+
+#include <QApplication>
+#include <QGroupBox>
+#include <QLabel>
+#include <QMenuBar>
+#include <QScreen>
+#include <QVBoxLayout>
+#include <array>
+
+#include "fenster/staffel/form48000.h"
+#include "fenster/start/impressum.h"
+#include "fenster/start/programmstart.h"
+#include "fenster/start/rechnertaste.h"
+#include "fenster/ui/bausteine.h"
+#include "fenster/ui/geschuetzt.h"
+#include "fenster/ui/symbol.h"
+#include "kern/dateien/arbeitsordner.h"
+
+namespace zinfolio {
+
+/// A calculator on the start screen: its entry in the menu, and its button with half a sentence.
+struct Rechnereintrag {
+    const char* name;
+    const char* menuetext;
+    const char* titel;
+    const char* erklaerung;
+    const char* symbol;
+};
+
+namespace {
+
+constexpr std::array kontorechner{
+    Rechnereintrag{"Zinsstaffelrechner", "Zinsstaffelrechner", "Zinsstaffelrechner",
+                   "Ein Konto nachrechnen, auf den Cent wie die Bank", "konto"},
+};
+constexpr std::array reihenrechner{
+    Rechnereintrag{"Effektivzinsrechner", "Effektivzinsrechner", "Effektivzinsrechner",
+                   "Rendite, Barwert, Tilgungsplan", "reihe"},
+    Rechnereintrag{"Finanztabellen", "Finanzmathematische Tabellen", "Finanztabellen",
+                   "Die sechs Faktoren als Tafel und einzeln", "tabelle"},
+};
+constexpr std::array sparrechner{
+    Rechnereintrag{"R1", "Endkapital Ratensparen", "Endkapital", "Was ein Sparplan am Ende ergibt", "sparen"},
+    Rechnereintrag{"R2", "Höhe einer Sparrate beim Ratensparen", "Sparrate",
+                   "Wie viel regelmäßig zu sparen ist", "sparen"},
+    Rechnereintrag{"R3", "Rendite beim Ratensparen", "Rendite", "Was ein Sparplan wirklich bringt", "sparen"},
+    Rechnereintrag{"R4", "Anspardauer beim Ratensparen", "Anspardauer", "Wie lange zu sparen ist", "sparen"},
+    Rechnereintrag{"R5", "Benötigtes Anfangskapital beim Ratensparen", "Anfangskapital",
+                   "Womit zu beginnen ist", "sparen"},
+};
+
+/// Room for three columns of buttons in the user's font, as far as the screen has it.
+QSize Anfangsgroesse(const QWidget& fenster) {
+    const int zeile = fenster.fontMetrics().height();
+    return QSize(72 * zeile, 40 * zeile).boundedTo(fenster.screen()->availableSize());
+}
+
+}  // namespace
+
+Form1::Form1(std::filesystem::path arbeitsordner) : arbeitsordner_(std::move(arbeitsordner)) {
+    setObjectName("Form1");
+    setWindowTitle("Zinfolio                Vers. " ZINFOLIO_VERSION);
+    setWindowIcon(QIcon(":/zinfolio.svg"));
+    wirkungen_ = {
+        {"Zinsstaffelrechner", [this] { ZinsstaffelrechnerOeffnen(); }},
+        {"Impr", [this] { ImpressumZeigen(this); }},
+        {"Enden2", [] { QApplication::quit(); }},
+    };
+    MenueAnlegen();
+    TafelAnlegen();
+    resize(Anfangsgroesse(*this));
+    move(0, 0);
+}
+
+QAction* Form1::Eintrag(QWidget& menue, const char* name, const char* text) {
+    auto* eintrag = new QAction(QString::fromUtf8(text), this);
+    eintrag->setObjectName(QString::fromUtf8(name));
+    eintrag->setEnabled(wirkungen_.contains(name));
+    connect(eintrag, &QAction::triggered, this, [this, name] { Oeffnen(name); });
+    menue.addAction(eintrag);
+    return eintrag;
+}
+
+void Form1::MenueAnlegen() {
+    QMenuBar& leiste = *menuBar();
+    Eintrag(leiste, reihenrechner[0].name, reihenrechner[0].menuetext);
+    Eintrag(leiste, kontorechner[0].name, kontorechner[0].menuetext);
+    QMenu* zinsrechner = leiste.addMenu("Zinsrechner");
+    zinsrechner->setObjectName("Zinsrechner");
+    for (const Rechnereintrag& rechner : sparrechner)
+        Eintrag(*zinsrechner, rechner.name, rechner.menuetext);
+    Eintrag(leiste, reihenrechner[1].name, reihenrechner[1].menuetext);
+    QMenu* info = leiste.addMenu("Info");
+    info->setObjectName("Info");
+    Eintrag(*info, "Hilfetext", "Hilfe");
+    Eintrag(*info, "Update", "Update - Download");
+    Eintrag(*info, "shop", "www.zinfolio.example");
+    Eintrag(*info, "FinSeminare", "Finanz - Seminare");
+    Eintrag(*info, "Impr", "Impressum");
+    Eintrag(leiste, "Enden2", "Ende");
+}
+
+void Form1::TafelAnlegen() {
+    auto* mitte = new QWidget;
+    auto* tafel = new QVBoxLayout(mitte);
+    tafel->setContentsMargins(28, 18, 28, 22);
+    auto* titel = new QLabel("Zinfolio");
+    titel->setObjectName("Label2");
+    QFont schrift = titel->font();
+    schrift.setPointSizeF(schrift.pointSizeF() * 2.4);
+    schrift.setBold(true);
+    titel->setFont(schrift);
+    tafel->addWidget(titel);
+    tafel->addWidget(new QLabel("Zinsen, Renditen und Sparpläne nachrechnen, auf den Cent genau."));
+    tafel->addSpacing(12);
+    auto* gruppen = new QHBoxLayout;
+    gruppen->setSpacing(18);
+    tafel->addLayout(gruppen);
+    tafel->addStretch();
+    Gruppe(*gruppen, "Konto", kontorechner);
+    Gruppe(*gruppen, "Reihen und Tabellen", reihenrechner);
+    Gruppe(*gruppen, "Sparpläne", sparrechner);
+    setCentralWidget(Rollbar(mitte));
+}
+
+void Form1::Gruppe(QBoxLayout& tafel, const QString& titel, std::span<const Rechnereintrag> rechner) {
+    auto* rahmen = new QGroupBox(titel);
+    // All groups are of one width, whatever their texts.
+    rahmen->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    auto* spalte = new QVBoxLayout(rahmen);
+    for (const Rechnereintrag& eintrag : rechner) {
+        auto* taste =
+            new Rechnertaste(Symbol(QString::fromUtf8(eintrag.symbol)), QString::fromUtf8(eintrag.titel),
+                             QString::fromUtf8(eintrag.erklaerung));
+        taste->setObjectName(QString("Taste") + QString::fromUtf8(eintrag.name));
+        taste->setEnabled(wirkungen_.contains(eintrag.name));
+        if (!taste->isEnabled()) taste->setToolTip("In dieser Version noch nicht enthalten");
+        connect(taste, &QPushButton::clicked, this, [this, name = eintrag.name] { Oeffnen(name); });
+        spalte->addWidget(taste);
+    }
+    spalte->addStretch();
+    tafel.addWidget(rahmen, 1);
+}
+
+void Form1::Oeffnen(std::string_view name) {
+    wirkungen_.at(name)();
+}
+
+void Form1::ZinsstaffelrechnerOeffnen() {
+    Geschuetzt(this, [this] {
+        ArbeitsordnerAnlegen(arbeitsordner_);
+        auto* rechner = new Form48000(arbeitsordner_);
+        rechner->setAttribute(Qt::WA_DeleteOnClose);
+        rechner->setWindowIcon(windowIcon());
+        connect(rechner, &Form48000::verlassen, this, &Form1::RechnerVerlassen);
+        rechner->show();
+        hide();
+    });
+}
+
+void Form1::RechnerVerlassen() {
+    const QStringList argumente = QCoreApplication::arguments().mid(1);
+    if (KehrtZumStartZurueck(argumente.join(' '))) {
+        show();
+    } else {
+        QApplication::quit();
+    }
+}
+
+void Form1::closeEvent(QCloseEvent* /*ereignis*/) {
+    QApplication::quit();
+}
+
+}  // namespace zinfolio

@@ -1,0 +1,104 @@
+#include "fenster/ui/bausteine.h"
+
+#include <QCalendarWidget>
+#include <QComboBox>
+#include <QDialog>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+#include "fenster/ui/meldungsfenster.h"
+#include "fenster/ui/symbol.h"
+#include "fenster/ui/uhr.h"
+
+namespace zinfolio {
+
+QPushButton* NeueTaste(const char* name, const QString& beschriftung, QWidget* eltern,
+                       const std::function<void()>& wirkung) {
+    auto* taste = new QPushButton(beschriftung, eltern);
+    taste->setObjectName(QString::fromUtf8(name));
+    QObject::connect(taste, &QPushButton::clicked, eltern, wirkung);
+    return taste;
+}
+
+QComboBox* NeueAuswahl(const char* name, std::span<const std::string_view> texte, QWidget* eltern) {
+    auto* auswahl = new QComboBox(eltern);
+    auswahl->setObjectName(QString::fromUtf8(name));
+    for (const std::string_view text : texte)
+        auswahl->addItem(Anzeigetext(text));
+    return auswahl;
+}
+
+QLabel* NeueKennzahl(const char* name, QWidget* eltern) {
+    auto* wert = new QLabel(eltern);
+    wert->setObjectName(QString::fromUtf8(name));
+    wert->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    QFont schrift = wert->font();
+    schrift.setPointSizeF(schrift.pointSizeF() * 1.5);
+    schrift.setBold(true);
+    wert->setFont(schrift);
+    return wert;
+}
+
+QHBoxLayout* Tastenzeile(std::initializer_list<QPushButton*> tasten) {
+    auto* zeile = new QHBoxLayout;
+    for (QPushButton* taste : tasten)
+        zeile->addWidget(taste);
+    zeile->addStretch();
+    return zeile;
+}
+
+QWidget* Seite(QWidget* element, std::initializer_list<QPushButton*> tasten) {
+    auto* seite = new QWidget;
+    auto* anordnung = new QVBoxLayout(seite);
+    anordnung->setContentsMargins(0, 0, 0, 0);
+    anordnung->addWidget(element, 1);
+    anordnung->addLayout(Tastenzeile(tasten));
+    return seite;
+}
+
+QWidget* Rollbar(QWidget* seite) {
+    auto* rahmen = new QScrollArea;
+    rahmen->setFrameShape(QFrame::NoFrame);
+    rahmen->setWidgetResizable(true);
+    rahmen->setWidget(seite);
+    return rahmen;
+}
+
+void TabfolgeSetzen(const QWidget& form, std::initializer_list<const char*> namen) {
+    QWidget* vorher = nullptr;
+    for (const char* name : namen) {
+        auto* element = form.findChild<QWidget*>(QString::fromUtf8(name));
+        if (vorher) QWidget::setTabOrder(vorher, element);
+        vorher = element;
+    }
+}
+
+void Kalendertaste(QPushButton& taste) {
+    taste.setFocusPolicy(Qt::ClickFocus);
+    taste.setShortcut(Qt::Key_F4);
+    taste.setIcon(Symbol("kalender"));
+    taste.setToolTip("Datum im Kalender wählen (F4)");
+    taste.setAccessibleName("Kalender");
+}
+
+std::optional<Datum> KalenderFragen(QWidget& unter, const std::string& datumstext) {
+    QDialog fenster(&unter, Qt::Popup);
+    QCalendarWidget kalender(&fenster);
+    kalender.setObjectName("mview");
+    kalender.setDateRange(QDate(Datum::erstesJahr, 1, 1), QDate(Datum::letztesJahr, 12, 31));
+    const Datum anfang = Datum::Versuche(datumstext).value_or(Heute());
+    kalender.setSelectedDate(QDate(anfang.Jahr(), anfang.Monat(), anfang.Tag()));
+    auto* anordnung = new QVBoxLayout(&fenster);
+    anordnung->setContentsMargins(1, 1, 1, 1);
+    anordnung->addWidget(&kalender);
+    QObject::connect(&kalender, &QCalendarWidget::activated, &fenster, &QDialog::accept);
+    QObject::connect(&kalender, &QCalendarWidget::clicked, &fenster, &QDialog::accept);
+    fenster.move(unter.mapToGlobal(QPoint(0, unter.height())));
+    if (fenster.exec() != QDialog::Accepted) return std::nullopt;
+    const QDate gewaehlt = kalender.selectedDate();
+    return Datum::Aus(gewaehlt.year(), gewaehlt.month(), gewaehlt.day());
+}
+
+}  // namespace zinfolio

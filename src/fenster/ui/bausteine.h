@@ -1,0 +1,52 @@
+#pragma once
+// The small pieces that the tabs of a calculator are put together from.
+
+#include <functional>
+#include <initializer_list>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "kern/dates/datum.h"
+
+class QComboBox;
+class QHBoxLayout;
+class QLabel;
+class QPushButton;
+class QString;
+class QWidget;
+
+namespace zinfolio {
+
+/// A button with its fixed name, bound once to what it does.
+[[nodiscard]] QPushButton* NeueTaste(const char* name, const QString& beschriftung, QWidget* eltern,
+                                     const std::function<void()>& wirkung);
+
+/// A list to choose from, with the texts of the core.
+[[nodiscard]] QComboBox* NeueAuswahl(const char* name, std::span<const std::string_view> texte,
+                                     QWidget* eltern);
+
+/// A figure shown large, which the user can select and copy.
+[[nodiscard]] QLabel* NeueKennzahl(const char* name, QWidget* eltern);
+
+/// Buttons side by side, at their natural width.
+[[nodiscard]] QHBoxLayout* Tastenzeile(std::initializer_list<QPushButton*> tasten);
+
+/// A page of one large element with a row of buttons below it.
+[[nodiscard]] QWidget* Seite(QWidget* element, std::initializer_list<QPushButton*> tasten);
+
+/// A page that scrolls where the window is too small for it.
+[[nodiscard]] QWidget* Rollbar(QWidget* seite);
+
+/// Makes Tab go through the children of `form` with these names, in this order.
+void TabfolgeSetzen(const QWidget& form, std::initializer_list<const char*> namen);
+
+/// Makes a button the calendar button behind a date field: by click or F4, passed over by Tab and Enter.
+void Kalendertaste(QPushButton& taste);
+
+/// Opens the month calendar (`mview`) below a widget and waits for a date; nothing where it is closed without
+/// one. It starts at the date of `datumstext`, else at today.
+[[nodiscard]] std::optional<Datum> KalenderFragen(QWidget& unter, const std::string& datumstext);
+
+}  // namespace zinfolio

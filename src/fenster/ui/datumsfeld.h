@@ -1,0 +1,36 @@
+#pragma once
+
+#include "fenster/ui/eingabefeld.h"
+
+namespace zinfolio {
+
+/// A date field: what was typed is completed to tt.mm.jjjj when the field is left. A text that is no date
+/// shows its message, becomes today's date and keeps the focus; the click or key that would have left the
+/// field is swallowed then, so that nothing is calculated with a date that the user has not seen.
+class Datumsfeld : public Eingabefeld {
+    Q_OBJECT
+
+  public:
+    explicit Datumsfeld(const QString& name, QWidget* eltern = nullptr);
+
+    /// Lets a widget (a calendar button) take the focus without the check.
+    void OhnePruefung(QWidget* begleiter) { begleiter_ = begleiter; }
+
+    /// Checks the text as leaving the field does; true where the field may be left.
+    bool DarfVerlassenWerden();
+
+  protected:
+    void focusInEvent(QFocusEvent* ereignis) override;
+    void focusOutEvent(QFocusEvent* ereignis) override;
+    bool focusNextPrevChild(bool vorwaerts) override;
+    bool eventFilter(QObject* ziel, QEvent* ereignis) override;
+
+  private:
+    [[nodiscard]] bool WuerdeVerlassen(QObject* ziel, const QEvent& ereignis) const;
+
+    QWidget* begleiter_ = nullptr;
+    bool pruefungLaeuft_ = false;
+    bool klickSchlucken_ = false;
+};
+
+}  // namespace zinfolio

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QLineEdit>
+
+#include "kern/dates/tastenfilter.h"
+
+namespace zinfolio {
+
+/// An entry field with its key filter. Gaining the focus selects the whole text, so that the first key
+/// replaces it; Enter moves on to the next field. Clipboard and cursor keys are no keys for the filter; the
+/// decimal key of the numeric keypad counts as the comma.
+class Eingabefeld : public QLineEdit {
+    Q_OBJECT
+
+  public:
+    Eingabefeld(const QString& name, Tastenfilter filter, QWidget* eltern = nullptr);
+
+    /// Text as the core takes it (UTF-8).
+    [[nodiscard]] std::string Wert() const { return text().toStdString(); }
+    void Setze(const std::string& wert) { setText(QString::fromStdString(wert)); }
+
+  protected:
+    void keyPressEvent(QKeyEvent* ereignis) override;
+    void focusInEvent(QFocusEvent* ereignis) override;
+    void mousePressEvent(QMouseEvent* ereignis) override;
+
+  private:
+    void Anwenden(const Tastenantwort& antwort, QKeyEvent* ereignis);
+
+    Tastenfilter filter_;
+    ErsteTaste ersteTaste_ = false;
+    bool durchMausBetreten_ = false;
+};
+
+}  // namespace zinfolio

@@ -1,0 +1,59 @@
+#include "fenster/ui/geschuetzt.h"
+
+#include <QApplication>
+#include <QCursor>
+#include <exception>
+
+#include "fenster/ui/meldungsfenster.h"
+#include "kern/dateien/dateifehler.h"
+#include "kern/dates/tage30.h"
+#include "kern/grund/meldungen.h"
+
+namespace zinfolio {
+namespace {
+
+class Wartezeiger {
+  public:
+    Wartezeiger() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~Wartezeiger() { QApplication::restoreOverrideCursor(); }
+    Wartezeiger(const Wartezeiger&) = delete;
+    Wartezeiger& operator=(const Wartezeiger&) = delete;
+};
+
+void AngabenFehler(QWidget* fenster, const QString& ursache) {
+    MeldungZeigen(fenster, {.text = Anzeigetext(meldung::angabenFehler), .einzelheiten = ursache});
+}
+
+}  // namespace
+
+bool Geschuetzt(QWidget* fenster, const std::function<void()>& operation) {
+    try {
+        operation();
+        return true;
+    } catch (const Tage30Fehler& fehler) {
+        MeldungZeigen(fenster, {.text = fehler.what()});
+        QCoreApplication::exit(1);
+    } catch (const std::exception& fehler) {
+        AngabenFehler(fenster, QString::fromUtf8(fehler.what()));
+    }
+    return false;
+}
+
+bool MitSchreibmeldung(QWidget* fenster, const std::function<void()>& operation, const QString& vorspann) {
+    try {
+        operation();
+        return true;
+    } catch (const Dateifehler& fehler) {
+        MeldungZeigen(fenster, {.text = vorspann + QString::fromUtf8(fehler.what())});
+    }
+    return false;
+}
+
+bool GeschuetztMitWartezeiger(QWidget* fenster, const std::function<void()>& operation) {
+    return Geschuetzt(fenster, [&] {
+        const Wartezeiger zeiger;
+        operation();
+    });
+}
+
+}  // namespace zinfolio

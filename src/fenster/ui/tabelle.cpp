@@ -1,0 +1,111 @@
+#include "fenster/ui/tabelle.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
+#include <algorithm>
+#include <numeric>
+
+namespace zinfolio {
+
+Tabelle::Tabelle(const QString& name, QWidget* eltern)
+    : QTableView(eltern), modell_(new Tabellenmodell(this)) {
+    setObjectName(name);
+    setContextMenuPolicy(Qt::ActionsContextMenu);
+    auto* kopieren = new QAction("&Kopieren", this);
+    kopieren->setShortcut(QKeySequence::Copy);
+    kopieren->setShortcutContext(Qt::WidgetShortcut);
+    connect(kopieren, &QAction::triggered, this, &Tabelle::AuswahlKopieren);
+    addAction(kopieren);
+    setModel(modell_);
+    setAlternatingRowColors(true);
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(ExtendedSelection);
+    setEditTriggers(NoEditTriggers);
+    setWordWrap(false);
+    setTabKeyNavigation(false);
+    setHorizontalScrollMode(ScrollPerPixel);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + fontMetrics().height() / 2);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setDefaultAlignment(Qt::AlignCenter);
+}
+
+void Tabelle::Zeige(Tabelleninhalt inhalt) {
+    modell_->Setze(std::move(inhalt));
+    SpaltenMessen();
+    SpaltenVerteilen();
+}
+
+std::vector<std::size_t> Tabelle::MarkierteZeilen() const {
+    std::vector<std::size_t> zeilen;
+    for (const QModelIndex& index : selectionModel()->selectedRows()) {
+        zeilen.push_back(static_cast<std::size_t>(index.row()));
+    }
+    std::sort(zeilen.begin(), zeilen.end());
+    return zeilen;
+}
+
+void Tabelle::Markiere(int zeile) {
+    clearSelection();
+    if (zeile < 0 || zeile >= modell_->rowCount()) return;
+    selectRow(zeile);
+    scrollTo(modell_->index(zeile, 0));
+}
+
+QString Tabelle::AuswahlAlsText() const {
+    QString text;
+    for (const std::size_t zeile : MarkierteZeilen()) {
+        for (int spalte = 0; spalte < modell_->columnCount(); ++spalte) {
+            if (spalte > 0) text += '\t';
+            text += modell_->index(static_cast<int>(zeile), spalte).data().toString();
+        }
+        text += '\n';
+    }
+    return text;
+}
+
+void Tabelle::AuswahlKopieren() const {
+    QApplication::clipboard()->setText(AuswahlAlsText());
+}
+
+int Tabelle::Spaltenbreite(int spalte) const {
+    constexpr int stichprobe = 200;
+    const QFontMetrics schrift(font());
+    const int zeilen = modell_->rowCount();
+    const int schritt = std::max(1, zeilen / stichprobe);
+    int breite = 0;
+    const auto messen = [&](int zeile) {
+        breite = std::max(breite, schrift.horizontalAdvance(modell_->index(zeile, spalte).data().toString()));
+    };
+    for (int zeile = 0; zeile < zeilen; zeile += schritt)
+        messen(zeile);
+    // Balances grow to the end: the last row is never left out.
+    if (zeilen > 0) messen(zeilen - 1);
+    return breite + 2 * schrift.horizontalAdvance('0');
+}
+
+void Tabelle::SpaltenMessen() {
+    breiten_.clear();
+    for (int spalte = 0; spalte < modell_->columnCount(); ++spalte) {
+        breiten_.push_back(std::max(horizontalHeader()->sectionSizeHint(spalte), Spaltenbreite(spalte)));
+    }
+}
+
+void Tabelle::SpaltenVerteilen() {
+    const int gebraucht = std::accumulate(breiten_.begin(), breiten_.end(), 0);
+    const int frei = std::max(0, viewport()->width() - gebraucht);
+    for (int spalte = 0; spalte < static_cast<int>(breiten_.size()); ++spalte) {
+        const int breite = breiten_[static_cast<std::size_t>(spalte)];
+        setColumnWidth(spalte, breite + frei * breite / std::max(1, gebraucht));
+    }
+}
+
+void Tabelle::resizeEvent(QResizeEvent* ereignis) {
+    QTableView::resizeEvent(ereignis);
+    SpaltenVerteilen();
+}
+
+}  // namespace zinfolio

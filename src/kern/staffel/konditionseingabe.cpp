@@ -1,0 +1,87 @@
+#include "kern/staffel/konditionseingabe.h"
+
+#include <algorithm>
+
+#include "kern/dates/textteile.h"
+#include "kern/dates/zahl.h"
+#include "kern/grund/windows1252.h"
+#include "kern/staffel/meldungen.h"
+
+namespace zinfolio {
+namespace {
+
+constexpr double hoechsterZinssatz = 999;
+
+Konditionspruefung Abgelehnt(std::string_view text) {
+    return {Ablehnung{std::string(text), "Gültigdatum", ""}, false};
+}
+
+Konditionspruefung Gewarnt(std::string_view text, bool angenommenBisher) {
+    return {Ablehnung{std::string(text), "", ""}, angenommenBisher};
+}
+
+bool HatDatum(std::span<const Staffelsatz> saetze, const std::string& datumstext) {
+    return std::any_of(saetze.begin(), saetze.end(), [&](const Staffelsatz& satz) {
+        return NachUtf8(satz.Satzdatum.Getrimmt()) == datumstext;
+    });
+}
+
+void LeereFelderFuellen(Konditionseingabe& e) {
+    for (std::string* feld : {&e.Gutzins1, &e.Gutzins2, &e.Kreditzins1, &e.Kreditzins2, &e.Guthabenlinie,
+                              &e.Kreditlinie, &e.Gültigdatum}) {
+        if (feld->empty()) *feld = "0";
+    }
+}
+
+float Satz(const std::string& text) {
+    return static_cast<float>(Zahl(text));
+}
+
+}  // namespace
+
+bool ZinssatzZuGross(std::string_view text) {
+    return !text.empty() && Zahlwert(text) > hoechsterZinssatz;
+}
+
+Konditionspruefung KonditionPruefen(Konditionseingabe& eingabe, std::span<const Staffelsatz> vorhandene,
+                                    Doppelpruefung doppelt, bool angenommenBisher) {
+    if (doppelt == Doppelpruefung::an && HatDatum(vorhandene, eingabe.Gültigdatum)) {
+        return Abgelehnt(meldung::datumDoppelt);
+    }
+    LeereFelderFuellen(eingabe);
+    // A text of one character passes the date check of its field, but is no date yet.
+    if (Zeichenzahl(eingabe.Gültigdatum) <= 1 || Zahlwert(eingabe.Gültigdatum) == 0) {
+        return Abgelehnt(meldung::unvollstaendig);
+    }
+    if (Zahl(eingabe.Guthabenlinie) == 0) return Gewarnt(meldung::guthabenlinieNull, angenommenBisher);
+    if (Zahl(eingabe.Kreditlinie) == 0) return Gewarnt(meldung::kreditlinieNull, angenommenBisher);
+    return {std::nullopt, true};
+}
+
+Staffelsatz KonditionErzeugen(const Konditionseingabe& eingabe) {
+    return Konditionssatz(eingabe.Gültigdatum, {
+                                                   .Gutzins1 = Satz(eingabe.Gutzins1),
+                                                   .Gutzins2 = Satz(eingabe.Gutzins2),
+                                                   .Guthabenlinie = Zahl(eingabe.Guthabenlinie),
+                                                   .Kreditzins1 = Satz(eingabe.Kreditzins1),
+                                                   .Kreditzins2 = Satz(eingabe.Kreditzins2),
+                                                   .Kreditlinie = Zahl(eingabe.Kreditlinie),
+                                                   .Zweitzinsart = eingabe.Zweitzinsart,
+                                               });
+}
+
+Konditionseingabe KonditionZurEingabe(const Staffelsatz& satz) {
+    const Konditionen& k = satz.kondition;
+    return {
+        .Gültigdatum = NachUtf8(satz.Satzdatum.Getrimmt()),
+        .Gutzins1 = Zahltext(k.Gutzins1),
+        .Gutzins2 = Zahltext(k.Gutzins2),
+        .Guthabenlinie = Zahltext(k.Guthabenlinie),
+        .Kreditzins1 = Zahltext(k.Kreditzins1),
+        .Kreditzins2 = Zahltext(k.Kreditzins2),
+        .Kreditlinie = Zahltext(k.Kreditlinie),
+        .Zweitzinsart = k.Zweitzinsart == 0 ? std::int16_t{1} : k.Zweitzinsart,
+    };
+}
+
+}  // namespace zinfolio

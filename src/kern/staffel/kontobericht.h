@@ -1,0 +1,41 @@
+#pragma once
+// The statement as a report.
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "kern/bericht/bericht.h"
+#include "kern/staffel/kontoansicht.h"
+#include "kern/staffel/kontoeinstellungen.h"
+#include "kern/staffel/staffelsatz.h"
+
+namespace zinfolio {
+
+/// What a statement's report shows; texts (UTF-8) as they stand on the form.
+struct Kontoberichtsdaten {
+    /// The file name of the project; empty: it has none yet.
+    std::string projekt;
+    Kontoeinstellungen einstellungen;
+    /// The effective rate as its field shows it; empty: none was calculated, and its two lines are left out.
+    std::string ezins;
+    /// The text of its method.
+    std::string effektivmethode;
+    std::string Gesamtzahlungssumme;
+    std::string Gesamtzinsen;
+    std::string Endvermögen;
+    /// The rows of `ZinsstaffelZins`.
+    std::vector<Staffelsatz> konditionen;
+    /// The calculated rows; none: the table is empty.
+    std::shared_ptr<const std::vector<Staffelsatz>> loesung;
+    Kontoansicht ansicht = Kontoansicht::kurzform;
+};
+
+/// The lines of the head page. They are at most 400: where the conditions fill line 399 (counted from 1) and
+/// there are more of them, line 400 says so.
+[[nodiscard]] std::vector<std::string> Kontokopfblock(const Kontoberichtsdaten& daten);
+
+/// The whole report: head page, and the table of the view. It keeps the calculated rows alive.
+[[nodiscard]] Bericht KontoberichtBilden(const Kontoberichtsdaten& daten);
+
+}  // namespace zinfolio

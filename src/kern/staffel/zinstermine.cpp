@@ -1,0 +1,48 @@
+#include "kern/staffel/zinstermine.h"
+
+#include <limits>
+#include <vector>
+
+namespace zinfolio {
+namespace {
+
+constexpr std::size_t hoechstzahl = std::numeric_limits<std::int16_t>::max();
+
+int Monate(Zinsverrechnungsart art) {
+    static constexpr std::array<int, 6> monate{1, 2, 3, 4, 6, 12};
+    return monate.at(static_cast<std::size_t>(art));
+}
+
+/// The last day of the month in which the rhythm's first period of the year ends.
+Datum ErsterKandidat(int jahr, Zinsverrechnungsart art) {
+    const int monat = Monate(art);
+    return *Datum::Aus(jahr, monat, Monatslaenge(jahr, monat));
+}
+
+Datum NaechsterTermin(Datum datum, Zinsverrechnungsart art) {
+    return Monatsletzter(PlusMonate(datum, Monate(art)));
+}
+
+}  // namespace
+
+void Zinstermine(Datum erstdatum, Datum kontodatum, Zinsverrechnungsart art, std::vector<Datum>& termine) {
+    termine.clear();
+    const Datum kandidat = ErsterKandidat(erstdatum.Jahr(), art);
+    Datum datum = kandidat;
+    while (datum < erstdatum)
+        datum = NaechsterTermin(datum, art);
+    termine.push_back(datum);
+    while (true) {
+        if (termine.size() >= hoechstzahl) throw Datumsfehler("Es gibt mehr als 32767 Zinstermine.");
+        datum = NaechsterTermin(datum, art);
+        if (datum >= kontodatum) break;
+        termine.push_back(datum);
+    }
+    // The comparison is with the unadjusted candidate (wanted): a closing date between it and the first
+    // settlement date leaves that date in front of the closing date, and one that equals it settles twice on
+    // that day.
+    if (termine.size() == 1 && kontodatum < kandidat) termine.clear();
+    termine.push_back(kontodatum);
+}
+
+}  // namespace zinfolio

@@ -1,0 +1,94 @@
+#include "stapel/befehle/ansichtstabelle.h"
+
+#include <algorithm>
+#include <string_view>
+#include <vector>
+
+#include "kern/dates/textteile.h"
+
+namespace zinfolio {
+namespace {
+
+using Zeile = std::vector<std::string>;
+
+/// The header and the rows of a view.
+std::vector<Zeile> Zellen(Kontoansicht ansicht, std::span<const Staffelsatz> loesung) {
+    const auto spalten = Ansichtsspalten(ansicht);
+    std::vector<Zeile> zeilen(1);
+    for (const Ansichtsspalte& spalte : spalten)
+        zeilen.front().emplace_back(spalte.kopf);
+    for (const std::size_t nummer : Ansichtszeilen(ansicht, loesung)) {
+        Zeile& zeile = zeilen.emplace_back();
+        for (const Ansichtsspalte& spalte : spalten)
+            zeile.push_back(spalte.zelle(loesung[nummer]));
+    }
+    return zeilen;
+}
+
+bool IstLinksbuendig(std::string_view kopf) {
+    return kopf == "Datum" || kopf == "Vorgang" || kopf == "Basis für Zinssatz 2";
+}
+
+/// One line: control characters become blanks, and several blanks become one.
+std::string Einzeilig(std::string_view text) {
+    std::string einzeilig;
+    for (const char zeichen : text) {
+        const char gezeigtes = static_cast<unsigned char>(zeichen) < 0x20 || zeichen == 0x7F ? ' ' : zeichen;
+        if (gezeigtes != ' ' || !einzeilig.ends_with(' ')) einzeilig += gezeigtes;
+    }
+    return einzeilig;
+}
+
+std::vector<std::size_t> Breiten(const std::vector<Zeile>& zeilen) {
+    std::vector<std::size_t> breiten(zeilen.front().size());
+    for (const Zeile& zeile : zeilen)
+        for (std::size_t i = 0; i < zeile.size(); ++i)
+            breiten[i] = std::max(breiten[i], Zeichenzahl(zeile[i]));
+    return breiten;
+}
+
+void FeldAnfuegen(std::string& text, std::string_view feld) {
+    if (feld.find_first_of(";\"\r\n") == std::string_view::npos) {
+        text += feld;
+        return;
+    }
+    text += '"';
+    for (const char zeichen : feld)
+        text.append(zeichen == '"' ? 2 : 1, zeichen);
+    text += '"';
+}
+
+}  // namespace
+
+std::string AnsichtAlsText(Kontoansicht ansicht, std::span<const Staffelsatz> loesung) {
+    constexpr std::string_view zwischenraum = "  ";
+    std::vector<Zeile> zeilen = Zellen(ansicht, loesung);
+    for (Zeile& zeile : zeilen)
+        std::ranges::transform(zeile, zeile.begin(), Einzeilig);
+    const std::vector<std::size_t> breiten = Breiten(zeilen);
+    std::string text;
+    for (const Zeile& zeile : zeilen) {
+        for (std::size_t i = 0; i < zeile.size(); ++i) {
+            const std::string luecke(breiten[i] - Zeichenzahl(zeile[i]), ' ');
+            const bool links = IstLinksbuendig(zeilen.front()[i]);
+            if (i > 0) text += zwischenraum;
+            text += links ? zeile[i] + luecke : luecke + zeile[i];
+        }
+        text += '\n';
+    }
+    return text;
+}
+
+std::string AnsichtAlsCsv(Kontoansicht ansicht, std::span<const Staffelsatz> loesung) {
+    std::string text;
+    for (const Zeile& zeile : Zellen(ansicht, loesung)) {
+        for (std::size_t i = 0; i < zeile.size(); ++i) {
+            if (i > 0) text += ';';
+            FeldAnfuegen(text, zeile[i]);
+        }
+        text += '\n';
+    }
+    return text;
+}
+
+}  // namespace zinfolio

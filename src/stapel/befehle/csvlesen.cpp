@@ -1,0 +1,96 @@
+#include "stapel/befehle/csvlesen.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "kern/grund/utf8.h"
+#include "kern/grund/windows1252.h"
+
+namespace zinfolio {
+namespace {
+
+bool IstUtf8(std::string_view text) {
+    while (!text.empty()) {
+        const auto zeichen = Utf8Lesen(text);
+        if (!zeichen) return false;
+        text.remove_prefix(zeichen->laenge);
+    }
+    return true;
+}
+
+class Csvleser {
+  public:
+    explicit Csvleser(std::string_view text) : rest_(text) {}
+
+    /// The next row that is not empty; false at the end.
+    bool Naechste(Csvzeile& zeile) {
+        while (NimmZeilenende()) {
+        }
+        if (rest_.empty()) return false;
+        zeile = {.nummer = nummer_, .felder = {}};
+        do {
+            zeile.felder.push_back(rest_.starts_with('"') ? Angefuehrtes() : Schlichtes());
+        } while (Nimm(";"));
+        if (!rest_.empty() && !NimmZeilenende())
+            throw Csvfehler(nummer_, "Hinter dem schließenden Anführungszeichen steht noch etwas.");
+        return true;
+    }
+
+  private:
+    bool Nimm(std::string_view anfang) {
+        if (!rest_.starts_with(anfang)) return false;
+        rest_.remove_prefix(anfang.size());
+        return true;
+    }
+
+    bool NimmZeilenende() {
+        if (!Nimm("\r\n") && !Nimm("\n")) return false;
+        ++nummer_;
+        return true;
+    }
+
+    std::string Schlichtes() {
+        const std::size_t ende = std::min({rest_.find(';'), rest_.find('\n'), rest_.size()});
+        const bool vorZeilenende = ende > 0 && ende < rest_.size() && rest_[ende] == '\n';
+        const std::size_t laenge = vorZeilenende && rest_[ende - 1] == '\r' ? ende - 1 : ende;
+        std::string feld(rest_.substr(0, laenge));
+        rest_.remove_prefix(laenge);
+        return feld;
+    }
+
+    std::string Angefuehrtes() {
+        const std::size_t beginn = nummer_;
+        std::string feld;
+        do {
+            rest_.remove_prefix(1);
+            const std::size_t ende = rest_.find('"');
+            if (ende == std::string_view::npos)
+                throw Csvfehler(beginn, "Ein Anführungszeichen wird nicht geschlossen.");
+            const std::string_view stueck = rest_.substr(0, ende);
+            nummer_ += static_cast<std::size_t>(std::count(stueck.begin(), stueck.end(), '\n'));
+            feld += stueck;
+            rest_.remove_prefix(ende + 1);
+            // A second quotation mark right behind the first one belongs to the text.
+            if (rest_.starts_with('"')) feld += '"';
+        } while (rest_.starts_with('"'));
+        return feld;
+    }
+
+    std::string_view rest_;
+    std::size_t nummer_ = 1;
+};
+
+}  // namespace
+
+std::vector<Csvzeile> CsvLesen(std::string_view text) {
+    constexpr std::string_view marke = "\xEF\xBB\xBF";
+    if (text.starts_with(marke)) text.remove_prefix(marke.size());
+    const std::string umgesetzt = IstUtf8(text) ? std::string() : NachUtf8(text);
+    Csvleser leser(umgesetzt.empty() ? text : umgesetzt);
+    std::vector<Csvzeile> zeilen;
+    for (Csvzeile zeile; leser.Naechste(zeile);)
+        zeilen.push_back(std::move(zeile));
+    return zeilen;
+}
+
+}  // namespace zinfolio

@@ -1,0 +1,20 @@
+#pragma once
+// An account's payments and conditions as tables that spreadsheets write.
+
+#include <string_view>
+#include <vector>
+
+#include "kern/staffel/staffelsatz.h"
+#include "stapel/befehle/csvlesen.h"
+
+namespace zinfolio {
+
+/// Rows of `Datum;Betrag;Beschreibung` behind a line with these words: a real date tt.mm.jjjj, an amount in
+/// German notation, a text. Throws `Csvfehler`.
+[[nodiscard]] std::vector<Staffelsatz> ZahlungenAusCsv(std::string_view text);
+
+/// The same for `Datum;Gutzins1;Gutzins2;Guthabenlinie;Kreditzins1;Kreditzins2;Kreditlinie;Zweitzinsart`;
+/// rates are percent per year, the last field is a whole number.
+[[nodiscard]] std::vector<Staffelsatz> KonditionenAusCsv(std::string_view text);
+
+}  // namespace zinfolio

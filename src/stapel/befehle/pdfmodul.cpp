@@ -1,0 +1,41 @@
+#include "stapel/befehle/pdfmodul.h"
+
+#include <dlfcn.h>
+#include <filesystem>
+#include <system_error>
+
+namespace zinfolio {
+namespace {
+
+constexpr const char* modulname = "zinfolio-pdf.so";
+constexpr const char* funktionsname = "ZinfolioBerichtAlsPdf";
+
+/// Gives 0 for success, else the reason in `fehler`.
+using Modulfunktion = int (*)(const Bericht*, const char* datei, std::string* fehler);
+
+std::filesystem::path Programmordner() {
+    std::error_code fehler;
+    return std::filesystem::read_symlink("/proc/self/exe", fehler).parent_path();
+}
+
+/// Null where the module is missing or another one. It stays loaded until the program ends.
+Modulfunktion ModulLaden() {
+    void* const modul = ::dlopen((Programmordner() / modulname).c_str(), RTLD_NOW | RTLD_LOCAL);
+    if (modul == nullptr) return nullptr;
+    return reinterpret_cast<Modulfunktion>(::dlsym(modul, funktionsname));
+}
+
+}  // namespace
+
+std::string PdfSchreiben(const Bericht& bericht, const std::string& datei) {
+    const Modulfunktion schreiben = ModulLaden();
+    if (schreiben == nullptr) {
+        return "Diese Installation kann keine PDF-Dateien schreiben: Neben dem Programm fehlt das Modul " +
+               std::string(modulname) + ", oder es passt nicht zu diesem Rechner.";
+    }
+    std::string fehler;
+    if (schreiben(&bericht, datei.c_str(), &fehler) == 0) return {};
+    return fehler.empty() ? "Die PDF-Datei \"" + datei + "\" kann nicht geschrieben werden." : fehler;
+}
+
+}  // namespace zinfolio

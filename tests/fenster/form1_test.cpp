@@ -1,0 +1,120 @@
+// The start screen: its menu, its buttons, the way to a calculator and back.
+
+#include "fenster/start/form1.h"
+
+#include <QApplication>
+#include <QMenuBar>
+#include <QPushButton>
+
+#include "fenster/formhelfer.h"
+#include "fenster/staffel/form48000.h"
+#include "fenster/start/programmstart.h"
+#include "fenster/ui/deutsch.h"
+#include "fenster/ui/entertaste.h"
+
+using namespace zinfolio;
+
+class Form1Test : public QObject {
+    Q_OBJECT
+
+  private:
+    static Form48000* Rechner() {
+        for (QWidget* fenster : QApplication::topLevelWidgets()) {
+            if (auto* rechner = qobject_cast<Form48000*>(fenster); rechner && rechner->isVisible())
+                return rechner;
+        }
+        return nullptr;
+    }
+
+  private slots:
+    void menueHatSeineEintraegeInIhrerReihenfolge() {
+        const Testordner ordner;
+        const Form1 form(ordner.Pfad());
+        QStringList texte;
+        for (const QAction* eintrag : form.menuBar()->actions())
+            texte << eintrag->text();
+        QCOMPARE(texte, (QStringList{"Effektivzinsrechner", "Zinsstaffelrechner", "Zinsrechner",
+                                     "Finanzmathematische Tabellen", "Info", "Ende"}));
+        texte.clear();
+        for (const QAction* eintrag : form.findChild<QMenu*>("Zinsrechner")->actions())
+            texte << eintrag->text();
+        QCOMPARE(texte, (QStringList{"Endkapital Ratensparen", "Höhe einer Sparrate beim Ratensparen",
+                                     "Rendite beim Ratensparen", "Anspardauer beim Ratensparen",
+                                     "Benötigtes Anfangskapital beim Ratensparen"}));
+    }
+
+    void fenstertitelNenntDieVersion() {
+        const Testordner ordner;
+        QCOMPARE(Form1(ordner.Pfad()).windowTitle(), "Zinfolio                Vers. 2.0.2");
+    }
+
+    void rechnerOeffnetSichVerstecktDenStartUndFuehrtZurueck() {
+        const Testordner ordner;
+        Form1 form(ordner.Pfad());
+        Zeige(form);
+        Finde<QPushButton>(&form, "TasteZinsstaffelrechner")->setFocus();
+        Druecke(Qt::Key_Return);
+        QVERIFY(Rechner());
+        QVERIFY(!form.isVisible());
+        Zeuge zeuge;
+        zeuge.antwort = Antwort::nein;
+        Rechner()->close();
+        QVERIFY(form.isVisible());
+    }
+
+    void menueeintragOeffnetDenselbenRechner() {
+        const Testordner ordner;
+        Form1 form(ordner.Pfad());
+        Zeige(form);
+        Finde<QAction>(&form, "Zinsstaffelrechner")->trigger();
+        QVERIFY(Rechner());
+        Zeuge zeuge;
+        zeuge.antwort = Antwort::nein;
+        Rechner()->close();
+    }
+
+    void arbeitsordnerDerKeinerIstWirdGemeldetUndDerStartBleibt() {
+        const Testordner ordner;
+        QFile sperrig(QString::fromStdString((ordner.Pfad() / "Fiskaris").string()));
+        QVERIFY(sperrig.open(QIODevice::WriteOnly));
+        const Zeuge zeuge;
+        Form1 form(ordner.Pfad() / "Fiskaris");
+        Zeige(form);
+        Finde<QAction>(&form, "Zinsstaffelrechner")->trigger();
+        QVERIFY(!Rechner());
+        QVERIFY(form.isVisible());
+        QCOMPARE(zeuge.texte.size(), 1);
+        QVERIFY(zeuge.einzelheiten[0].contains("Fiskaris"));
+    }
+
+    void kommandozeileEntscheidetUeberDieRueckkehr() {
+        QVERIFY(KehrtZumStartZurueck(""));
+        QVERIFY(KehrtZumStartZurueck("Zinfolio.exe"));
+        QVERIFY(!KehrtZumStartZurueck("konto"));
+    }
+
+    void zweitesProgrammImSelbenOrdnerWirdAbgewiesen() {
+        const Testordner ordner;
+        {
+            const Ordnersperre erste(ordner.Pfad());
+            QVERIFY(erste.Gehalten());
+            const Ordnersperre zweite(ordner.Pfad());
+            QVERIFY(!zweite.Gehalten());
+            QVERIFY(zweite.Besetzt());
+        }
+        QVERIFY(Ordnersperre(ordner.Pfad()).Gehalten());
+    }
+
+    void sperreEinesAbgestuerztenProgrammsHaeltNicht() {
+        const Testordner ordner;
+        QFile verwaist(QString::fromStdString((ordner.Pfad() / "zinfolio.lock").string()));
+        QVERIFY(verwaist.open(QIODevice::WriteOnly));
+        // No process has this number: the kernel's limit lies below.
+        verwaist.write("99999999\nzinfolio\n" + QSysInfo::machineHostName().toUtf8() + "\n");
+        verwaist.close();
+        QVERIFY(Ordnersperre(ordner.Pfad()).Gehalten());
+    }
+};
+
+ZINFOLIO_FENSTERTEST(Form1Test)
+#include "form1_test.moc"

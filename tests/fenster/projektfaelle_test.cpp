@@ -1,0 +1,257 @@
+// The account as a project where something is in the way: failed and cancelled saves and opens, notes of
+// another kind, the ways out of the form.
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QTextEdit>
+#include <QToolButton>
+#include <fcntl.h>
+#include <unistd.h>
+
+#include "fenster/kontoformular.h"
+#include "fenster/ui/deutsch.h"
+#include "fenster/ui/entertaste.h"
+#include "fenster/ui/uhr.h"
+#include "kern/dateien/groessengrenze.h"
+#include "kern/dateien/ohnevorrechte.h"
+
+using namespace zinfolio;
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* nichtGespeichert = "Das Konto konnte nicht gespeichert werden.";
+
+bool Beschreibbar(const fs::path& ordner) {
+    return ::faccessat(AT_FDCWD, ordner.c_str(), W_OK, AT_EACCESS) == 0;
+}
+
+}  // namespace
+
+class ProjektfaelleTest : public QObject {
+    Q_OBJECT
+
+  private:
+    std::unique_ptr<Testordner> arbeit_;
+    std::unique_ptr<Testordner> ablage_;
+    std::unique_ptr<Form48000> form_;
+
+    fs::path Datei(const char* name) { return ablage_->Pfad() / name; }
+    QString Text(const char* name) { return Finde<QLabel>(form_.get(), name)->text(); }
+    QString Notizen() { return Finde<QTextEdit>(form_.get(), "RTZinsstaffel")->toPlainText(); }
+    bool Frei(const char* taste) { return Finde<QPushButton>(form_.get(), taste)->isEnabled(); }
+    int Register() { return Finde<QTabWidget>(form_.get(), "TabStrip1")->currentIndex(); }
+
+    void Taste(Qt::Key taste, Qt::KeyboardModifiers zusatz = Qt::ControlModifier) {
+        QTest::keyClick(form_.get(), taste, zusatz);
+    }
+
+    /// A key that asks for a file, and the answer; gives the question.
+    Dateifrage Dateitaste(Qt::Key taste, Qt::KeyboardModifiers zusatz,
+                          const std::optional<fs::path>& antwort) {
+        Dateiwahl wahl;
+        wahl.antwort = antwort;
+        Taste(taste, zusatz);
+        if (wahl.fragen.size() != 1) qFatal("%zu Dateidialoge statt einem", wahl.fragen.size());
+        return wahl.fragen.front();
+    }
+    Dateifrage SpeichernAls(const std::optional<fs::path>& antwort) {
+        return Dateitaste(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier, antwort);
+    }
+    Dateifrage Oeffnen(const std::optional<fs::path>& antwort) {
+        return Dateitaste(Qt::Key_O, Qt::ControlModifier, antwort);
+    }
+
+    /// Two payments, one condition, a closing date, a note.
+    void KontoEingeben() {
+        Zahlung(*form_, "31.12.2006", "1000", "Einlage");
+        Zahlung(*form_, "30.06.2007", "500", "Nachzahlung");
+        Kondition(*form_);
+        Waehle(*form_, Form48000::zinsverrechnung);
+        Fuelle(*form_, "Kontodatum", "31.12.2007");
+        Waehle(*form_, Form48000::notizen);
+        Tippe("Konto der Oma");
+        Waehle(*form_, Form48000::zahlungen);
+    }
+
+    /// The same, saved as "Konto.ZiS".
+    void KontoAnlegen() {
+        KontoEingeben();
+        SpeichernAls(Datei("Konto.ZiS"));
+        QVERIFY(!form_->isWindowModified());
+    }
+
+    /// The contents of the project's files.
+    std::vector<std::string> Projektinhalt() {
+        std::vector<std::string> inhalte;
+        for (const char* name :
+             {"Konto.ZiS", "Zinsstaffel1Konto", "ZinsstaffelzinsKonto", "ZinsverrechnungKonto"})
+            inhalte.push_back(Inhalt(Datei(name)));
+        return inhalte;
+    }
+
+    void EingegebenesSteht() {
+        QCOMPARE(Zeile(*form_, "List1", 0), "31.12.2006|1.000,00|Einlage");
+        QCOMPARE(Zeile(*form_, "List1", 1), "30.06.2007|500,00|Nachzahlung");
+        QCOMPARE(Zeilen(*form_, "List2"), 1);
+        QCOMPARE(Finde<QLineEdit>(form_.get(), "Kontodatum")->text(), "31.12.2007");
+        QCOMPARE(Notizen(), "Konto der Oma");
+    }
+
+  private slots:
+    void initTestCase() { UhrStellen(*Datum::Aus(2026, 11, 21)); }
+
+    void init() {
+        arbeit_ = std::make_unique<Testordner>();
+        ablage_ = std::make_unique<Testordner>();
+        form_ = std::make_unique<Form48000>(arbeit_->Pfad());
+        Zeige(*form_);
+    }
+    void cleanup() {
+        form_.reset();
+        arbeit_.reset();
+        ablage_.reset();
+    }
+
+    void nachMisslungenemOeffnenGibtEsNichtsZuDrucken() {
+        KontoAnlegen();
+        Waehle(*form_, Form48000::berechnung);
+        // 1 000 for 360 days and 500 for 180 days at 10 %: 100 + 25 of interest.
+        QCOMPARE(Text("EV"), "1.625,00");
+        QVERIFY(Frei("Command13") && Frei("Grafik"));
+        fs::remove(Datei("ZinsstaffelzinsKonto"));
+        const Zeuge zeuge;
+        Oeffnen(Datei("Konto.ZiS"));
+        QCOMPARE(zeuge.texte.size(), 1);
+        QVERIFY(!Frei("Command13"));
+        QVERIFY(!Frei("Grafik"));
+        for (const char* summe : {"Gesamtzahlungssumme", "Geszins", "EV"})
+            QCOMPARE(Text(summe), "");
+        QCOMPARE(Register(), int(Form48000::zahlungen));
+        QVERIFY(form_->isWindowModified());
+    }
+
+    void verlassenMitJaBleibtWennDasSpeichernScheitert() {
+        KontoAnlegen();
+        fs::remove_all(ablage_->Pfad());
+        const Zeuge zeuge;
+        const QSignalSpy verlassen(form_.get(), &Form48000::verlassen);
+        QVERIFY(!form_->close());
+        QCOMPARE(zeuge.texte.size(), 2);
+        QCOMPARE(zeuge.texte[0], "Speichern ?");
+        QVERIFY2(zeuge.texte[1].startsWith(nichtGespeichert), qPrintable(zeuge.texte[1]));
+        QVERIFY(form_->isVisible());
+        QCOMPARE(verlassen.count(), 0);
+        EingegebenesSteht();
+    }
+
+    void verlassenMitNeinMeldetVerlassen() {
+        KontoEingeben();
+        Zeuge zeuge;
+        zeuge.antwort = Antwort::nein;
+        const QSignalSpy verlassen(form_.get(), &Form48000::verlassen);
+        QVERIFY(form_->close());
+        QVERIFY(!form_->isVisible());
+        QCOMPARE(verlassen.count(), 1);
+        QCOMPARE(zeuge.texte, QStringList("Speichern ?"));
+    }
+
+    void endeImMenueUndInDerLeisteFragen() {
+        auto* ende = Finde<QAction>(form_.get(), "Programmende");
+        QVERIFY(form_->menuBar()->actions().constFirst()->menu()->actions().contains(ende));
+        Zeuge zeuge;
+        zeuge.antwort = Antwort::abbrechen;
+        ende->trigger();
+        QCOMPARE(zeuge.texte, QStringList("Speichern ?"));
+        QTest::mouseClick(Finde<QToolButton>(form_.get(), "Command2"), Qt::LeftButton);
+        QCOMPARE(zeuge.texte, QStringList({"Speichern ?", "Speichern ?"}));
+        QVERIFY(form_->isVisible());
+    }
+
+    void abgebrochenesOeffnenLaesstDasKonto() {
+        KontoAnlegen();
+        const Zeuge zeuge;
+        Oeffnen(std::nullopt);
+        QVERIFY(zeuge.texte.isEmpty());
+        QCOMPARE(Text("Projekt"), "Konto.ZiS");
+        QVERIFY(!form_->isWindowModified());
+        EingegebenesSteht();
+    }
+
+    void derDialogBeginntMitDemLetztenNamen() {
+        KontoEingeben();
+        QCOMPARE(SpeichernAls(Datei("Konto.ZiS")).vorgabe, "");
+        const QString name = QString::fromStdString(Datei("Konto.ZiS").string());
+        QCOMPARE(SpeichernAls(std::nullopt).vorgabe, name);
+        QCOMPARE(Oeffnen(std::nullopt).vorgabe, name);
+    }
+
+    void notizenAlsReinerTextWerdenGelesenUndAlsRtfGespeichert() {
+        KontoAnlegen();
+        std::ofstream(Datei("Konto.ZiS"), std::ios::binary) << "Gru\xDF";
+        Oeffnen(Datei("Konto.ZiS"));
+        QCOMPARE(Notizen(), "Gruß");
+        QVERIFY(!form_->isWindowModified());
+        Taste(Qt::Key_S);
+        const std::string notiz = Inhalt(Datei("Konto.ZiS"));
+        QVERIFY(notiz.starts_with("{\\rtf1"));
+        QVERIFY(notiz.find("Gru\\'df") != std::string::npos);
+    }
+
+    void einSchreibgeschuetzterOrdnerWirdGemeldetUndDasKontoBleibt() {
+        KontoEingeben();
+        fs::permissions(arbeit_->Pfad(), fs::perms{0777});
+        fs::permissions(ablage_->Pfad(), fs::perms{0555});
+        const Zeuge zeuge;
+        {
+            const OhneVorrechte niemand;
+            if (Beschreibbar(ablage_->Pfad()) || !Beschreibbar(arbeit_->Pfad()))
+                QSKIP("Hier lässt sich kein Ordner gegen das Schreiben schützen.");
+            SpeichernAls(Datei("Konto.ZiS"));
+        }
+        fs::permissions(ablage_->Pfad(), fs::perms{0755});
+        QCOMPARE(zeuge.texte.size(), 1);
+        QVERIFY2(zeuge.texte[0].startsWith(nichtGespeichert), qPrintable(zeuge.texte[0]));
+        QVERIFY2(zeuge.texte[0].contains("Zinsstaffel1Konto"), qPrintable(zeuge.texte[0]));
+        QVERIFY(fs::is_empty(ablage_->Pfad()));
+        QCOMPARE(Text("Projekt"), "");
+        QVERIFY(form_->isWindowModified());
+        EingegebenesSteht();
+    }
+
+    void vollerDatentraegerWirdGemeldetUndLaesstDasGespeicherte() {
+        KontoAnlegen();
+        const std::vector<std::string> vorher = Projektinhalt();
+        Zahlung(*form_, "01.07.2007", "1");
+        const Zeuge zeuge;
+        {
+            // The settings' 90 bytes still fit, the three payments' 387 do not.
+            const Groessengrenze voll(300);
+            Taste(Qt::Key_S);
+        }
+        QCOMPARE(zeuge.texte.size(), 1);
+        QVERIFY2(zeuge.texte[0].startsWith(nichtGespeichert), qPrintable(zeuge.texte[0]));
+        QCOMPARE(Projektinhalt(), vorher);
+        QCOMPARE(std::distance(fs::directory_iterator(ablage_->Pfad()), {}), 4);
+        QCOMPARE(Text("Projekt"), "Konto.ZiS");
+        QVERIFY(form_->isWindowModified());
+        QCOMPARE(Zeilen(*form_, "List1"), 3);
+        EingegebenesSteht();
+    }
+
+    void einAbgebrochenesSpeichernUnterSchreibtDieEinstellungenTrotzdem() {
+        KontoEingeben();
+        QVERIFY(!fs::exists(arbeit_->Pfad() / "Zinsverrechnung"));
+        SpeichernAls(std::nullopt);
+        QCOMPARE(fs::file_size(arbeit_->Pfad() / "Zinsverrechnung"), 90U);
+        QVERIFY(fs::is_empty(ablage_->Pfad()));
+    }
+};
+
+ZINFOLIO_FENSTERTEST(ProjektfaelleTest)
+#include "projektfaelle_test.moc"

@@ -1,0 +1,59 @@
+#include "kern/dateien/stoerung.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <optional>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+namespace zinfolio {
+namespace {
+
+std::optional<Stoerung::Art> stoerung;
+int aufrufe = 0;
+int gelungene = 0;
+
+// Number of bytes that the call may move; nothing where it fails, with `errno` set.
+std::optional<std::size_t> Erlaubt(int datei, std::size_t anzahl) {
+    if (!stoerung || datei <= STDERR_FILENO) return anzahl;
+    ++aufrufe;
+    if (stoerung->unterbrechen && aufrufe % 2 == 1) {
+        errno = EINTR;
+        return std::nullopt;
+    }
+    if (gelungene >= stoerung->gute) {
+        errno = stoerung->fehlernummer;
+        return std::nullopt;
+    }
+    ++gelungene;
+    return std::min(anzahl, stoerung->stueck);
+}
+
+}  // namespace
+
+Stoerung::Stoerung(Art art) {
+    stoerung = art;
+    aufrufe = 0;
+    gelungene = 0;
+}
+
+Stoerung::~Stoerung() {
+    stoerung.reset();
+}
+
+int Stoerung::Aufrufe() {
+    return aufrufe;
+}
+
+}  // namespace zinfolio
+
+// These take the place of the C library's functions in the whole program.
+extern "C" ssize_t write(int datei, const void* quelle, std::size_t anzahl) {
+    const auto erlaubt = zinfolio::Erlaubt(datei, anzahl);
+    return erlaubt ? ::syscall(SYS_write, datei, quelle, *erlaubt) : -1;
+}
+
+extern "C" ssize_t read(int datei, void* ziel, std::size_t anzahl) {
+    const auto erlaubt = zinfolio::Erlaubt(datei, anzahl);
+    return erlaubt ? ::syscall(SYS_read, datei, ziel, *erlaubt) : -1;
+}
