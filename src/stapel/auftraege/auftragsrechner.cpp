@@ -14,9 +14,8 @@ namespace {
 
 Rechnung RechnungSuchen(const std::optional<std::string>& name, const char* stelle) {
     if (!name) throw Auftragsfehler("Das Feld \"rechnung\" fehlt.", stelle);
-    const auto arten = Rechnungsarten();
-    const auto art = std::find_if(arten.begin(), arten.end(), [&](const auto& a) { return a.name == *name; });
-    if (art != arten.end()) return art->rechnen;
+    const auto art = std::ranges::find(rechnungsarten, *name, &Rechnungsart::name);
+    if (art != rechnungsarten.end()) return (*art)->rechnen;
     constexpr std::size_t zeigbar = 40;
     throw Auftragsfehler(
         "Das Feld \"rechnung\" nennt eine unbekannte Rechnung: \"" + Gekuerzt(*name, zeigbar) + "\".",

@@ -5,7 +5,6 @@
 #include "stapel/auftraege/rechnungen.h"
 #include "stapel/auftraege/staffelergebnis.h"
 #include "stapel/json/feldlesen.h"
-#include "stapel/json/feldtafel.h"
 
 namespace zinfolio {
 namespace {
@@ -38,13 +37,12 @@ struct Kontoauftrag {
     Effektivwunsch Effektivmethode;
 };
 
-constexpr auto kontofelder =
-    Auftragsfelder(Pflichtfeld<&Kontoauftrag::Zahlungen>("Zahlungen"),
-                   Pflichtfeld<&Kontoauftrag::Konditionen>("Konditionen"),
-                   Pflichtfeld<&Kontoauftrag::Kontodatum>("Kontodatum"),
-                   Pflichtfeld<&Kontoauftrag::Zinsverrechnungsart>("Zinsverrechnungsart"),
-                   Pflichtfeld<&Kontoauftrag::Verzinsungsmethode>("Verzinsungsmethode"),
-                   Kannfeld<&Kontoauftrag::Effektivmethode>("Effektivmethode"));
+constexpr auto felder = Auftragsfelder(Pflichtfeld<&Kontoauftrag::Zahlungen>("Zahlungen"),
+                                       Pflichtfeld<&Kontoauftrag::Konditionen>("Konditionen"),
+                                       Pflichtfeld<&Kontoauftrag::Kontodatum>("Kontodatum"),
+                                       Pflichtfeld<&Kontoauftrag::Zinsverrechnungsart>("Zinsverrechnungsart"),
+                                       Pflichtfeld<&Kontoauftrag::Verzinsungsmethode>("Verzinsungsmethode"),
+                                       Kannfeld<&Kontoauftrag::Effektivmethode>("Effektivmethode"));
 
 Konto KontoAus(Kontoauftrag&& auftrag) {
     Konto konto;
@@ -55,15 +53,16 @@ Konto KontoAus(Kontoauftrag&& auftrag) {
     return konto;
 }
 
-}  // namespace
-
-std::optional<Ablehnung> RechneStaffel(JsonWert& auftrag, JsonSchreiber& ergebnis) {
-    Kontoauftrag eingabe = AuftragLesen(auftrag, kontofelder);
-    const std::optional<Effektivmethode> methode = eingabe.Effektivmethode.methode;
-    Staffelergebnis gerechnetes{.konto = KontoAus(std::move(eingabe))};
+std::optional<Ablehnung> Rechne(Kontoauftrag&& auftrag, JsonSchreiber& ergebnis) {
+    const std::optional<Effektivmethode> methode = auftrag.Effektivmethode.methode;
+    Staffelergebnis gerechnetes{.konto = KontoAus(std::move(auftrag))};
     if (auto ablehnung = StaffelRechnen(gerechnetes, methode)) return ablehnung;
     StaffelergebnisSchreiben(gerechnetes, ergebnis);
     return std::nullopt;
 }
+
+}  // namespace
+
+constexpr Rechnungsart rechnungStaffel = Auftragsart<felder, Rechne>("staffel");
 
 }  // namespace zinfolio

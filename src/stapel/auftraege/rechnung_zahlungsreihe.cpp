@@ -6,12 +6,11 @@
 #include "stapel/auftraege/rechnungen.h"
 #include "stapel/auftraege/satztext.h"
 #include "stapel/json/feldlesen.h"
-#include "stapel/json/feldtafel.h"
 
 namespace zinfolio {
 namespace {
 
-constexpr auto eingabefelder = Auftragsfelder(
+constexpr auto felder = Auftragsfelder(
     Pflichtfeld<&Zahlungseingabe::Begdatum>("Begdatum"), Pflichtfeld<&Zahlungseingabe::Betrag>("Betrag"),
     Pflichtfeld<&Zahlungseingabe::Ratzahl>("Ratzahl"), Pflichtfeld<&Zahlungseingabe::Abstand>("Abstand"),
     Pflichtfeld<&Zahlungseingabe::Stufen>("Stufen"), Pflichtfeld<&Zahlungseingabe::Delta>("Delta"),
@@ -29,10 +28,7 @@ void ZahlungSchreiben(const Staffelsatz& zahlung, JsonSchreiber& ergebnis) {
     ergebnis.ObjektZu();
 }
 
-}  // namespace
-
-std::optional<Ablehnung> RechneZahlungsreihe(JsonWert& auftrag, JsonSchreiber& ergebnis) {
-    Zahlungseingabe eingabe = AuftragLesen(auftrag, eingabefelder);
+std::optional<Ablehnung> Rechne(Zahlungseingabe eingabe, JsonSchreiber& ergebnis) {
     // The label is kept up while the fields are typed, thus before the check fills the empty ones.
     const std::string letztesDatum = Datumrech(eingabe);
     if (auto ablehnung = ZahlungseingabePruefen(eingabe)) return ablehnung;
@@ -46,5 +42,9 @@ std::optional<Ablehnung> RechneZahlungsreihe(JsonWert& auftrag, JsonSchreiber& e
     ergebnis.Feld("Datumrech", letztesDatum);
     return std::nullopt;
 }
+
+}  // namespace
+
+constexpr Rechnungsart rechnungZahlungsreihe = Auftragsart<felder, Rechne>("zahlungsreihe");
 
 }  // namespace zinfolio

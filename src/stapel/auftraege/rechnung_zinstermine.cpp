@@ -4,7 +4,6 @@
 #include "stapel/auftraege/listenfelder.h"
 #include "stapel/auftraege/rechnungen.h"
 #include "stapel/json/feldlesen.h"
-#include "stapel/json/feldtafel.h"
 
 namespace zinfolio {
 namespace {
@@ -15,17 +14,14 @@ struct Terminauftrag {
     zinfolio::Zinsverrechnungsart Zinsverrechnungsart{};
 };
 
-constexpr auto terminfelder =
+constexpr auto felder =
     Auftragsfelder(Pflichtfeld<&Terminauftrag::Erstdatum>("Erstdatum"),
                    Pflichtfeld<&Terminauftrag::Kontodatum>("Kontodatum"),
                    Pflichtfeld<&Terminauftrag::Zinsverrechnungsart>("Zinsverrechnungsart"));
 
-}  // namespace
-
-std::optional<Ablehnung> RechneZinstermine(JsonWert& auftrag, JsonSchreiber& ergebnis) {
-    const Terminauftrag eingabe = AuftragLesen(auftrag, terminfelder);
+std::optional<Ablehnung> Rechne(const Terminauftrag& auftrag, JsonSchreiber& ergebnis) {
     std::vector<Datum> termine;
-    Zinstermine(eingabe.Erstdatum, eingabe.Kontodatum, eingabe.Zinsverrechnungsart, termine);
+    Zinstermine(auftrag.Erstdatum, auftrag.Kontodatum, auftrag.Zinsverrechnungsart, termine);
     ergebnis.Festlegen();
     ergebnis.Name("Termine");
     ergebnis.ListeAuf();
@@ -36,5 +32,9 @@ std::optional<Ablehnung> RechneZinstermine(JsonWert& auftrag, JsonSchreiber& erg
     ergebnis.ListeZu();
     return std::nullopt;
 }
+
+}  // namespace
+
+constexpr Rechnungsart rechnungZinstermine = Auftragsart<felder, Rechne>("zinstermine");
 
 }  // namespace zinfolio

@@ -1,13 +1,15 @@
 #pragma once
-// The kinds of jobs. Each calculation reads its fields, calls the core and writes its result fields.
+// The kinds of jobs. A kind is one file `rechnung_NAME.cpp`: the type of its fields, their table, the
+// calculation, and the `Rechnungsart` that ties them together under a name. It is entered here, in the list
+// below.
 
+#include <array>
 #include <optional>
-#include <span>
 #include <string_view>
 
 #include "kern/grund/ablehnung.h"
+#include "stapel/json/feldtafel.h"
 #include "stapel/json/jsonschreiber.h"
-#include "stapel/json/jsonwert.h"
 
 namespace zinfolio {
 
@@ -16,23 +18,35 @@ namespace zinfolio {
 /// `Auftragsfehler` where the job is not valid; any other exception is a fault of the calculation.
 using Rechnung = std::optional<Ablehnung> (*)(JsonWert& auftrag, JsonSchreiber& ergebnis);
 
-std::optional<Ablehnung> RechneTage(JsonWert& auftrag, JsonSchreiber& ergebnis);
-std::optional<Ablehnung> RechnePeriodenzinsen(JsonWert& auftrag, JsonSchreiber& ergebnis);
-std::optional<Ablehnung> RechneDatum(JsonWert& auftrag, JsonSchreiber& ergebnis);
-std::optional<Ablehnung> RechneZahlformat(JsonWert& auftrag, JsonSchreiber& ergebnis);
-std::optional<Ablehnung> RechneZahlungsreihe(JsonWert& auftrag, JsonSchreiber& ergebnis);
-std::optional<Ablehnung> RechneZinstermine(JsonWert& auftrag, JsonSchreiber& ergebnis);
-std::optional<Ablehnung> RechneStaffel(JsonWert& auftrag, JsonSchreiber& ergebnis);
-std::optional<Ablehnung> RechneReihe(JsonWert& auftrag, JsonSchreiber& ergebnis);
-std::optional<Ablehnung> RechneReihenwert(JsonWert& auftrag, JsonSchreiber& ergebnis);
-
 /// A kind by its name in the field `rechnung`.
 struct Rechnungsart {
     std::string_view name;
     Rechnung rechnen;
 };
 
-/// All kinds.
-[[nodiscard]] std::span<const Rechnungsart> Rechnungsarten();
+/// A kind whose job is read by the table `felder` and handed to `rechne(auftrag, ergebnis)`.
+template <const auto& felder, auto rechne>
+[[nodiscard]] constexpr Rechnungsart Auftragsart(std::string_view name) {
+    return {name, [](JsonWert& auftrag, JsonSchreiber& ergebnis) -> std::optional<Ablehnung> {
+                return rechne(AuftragLesen(auftrag, felder), ergebnis);
+            }};
+}
+
+extern const Rechnungsart rechnungDatum;
+extern const Rechnungsart rechnungPeriodenzinsen;
+extern const Rechnungsart rechnungReihe;
+extern const Rechnungsart rechnungReihenwert;
+extern const Rechnungsart rechnungStaffel;
+extern const Rechnungsart rechnungTage;
+extern const Rechnungsart rechnungZahlformat;
+extern const Rechnungsart rechnungZahlungsreihe;
+extern const Rechnungsart rechnungZinstermine;
+
+/// All kinds, the most frequent first.
+inline constexpr std::array rechnungsarten{
+    &rechnungStaffel,    &rechnungReihe,          &rechnungReihenwert,
+    &rechnungTage,       &rechnungPeriodenzinsen, &rechnungDatum,
+    &rechnungZahlformat, &rechnungZahlungsreihe,  &rechnungZinstermine,
+};
 
 }  // namespace zinfolio

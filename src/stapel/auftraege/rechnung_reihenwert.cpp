@@ -1,0 +1,55 @@
+#include "kern/dateien/satzdatei.h"
+#include "kern/finmath/reiheauswerten.h"
+#include "kern/grund/rechenfehler.h"
+#include "stapel/auftraege/kontofelder.h"
+#include "stapel/auftraege/listenfelder.h"
+#include "stapel/auftraege/rechnungen.h"
+#include "stapel/json/feldlesen.h"
+
+namespace zinfolio {
+namespace {
+
+struct Wertauftrag {
+    Reihenliste Zahlungen;
+    zinfolio::Effektivmethode Effektivmethode{};
+    double Zinssatz = 0;
+};
+
+constexpr auto felder = Auftragsfelder(Pflichtfeld<&Wertauftrag::Zahlungen>("Zahlungen"),
+                                       Pflichtfeld<&Wertauftrag::Effektivmethode>("Effektivmethode"),
+                                       Pflichtfeld<&Wertauftrag::Zinssatz>("Zinssatz"));
+
+void TabelleSchreiben(std::string_view name, const std::optional<std::vector<Ergebnissatz>>& tabelle,
+                      JsonSchreiber& ergebnis) {
+    ergebnis.Name(name);
+    ergebnis.ListeAuf();
+    for (const Ergebnissatz& satz : tabelle.value_or(std::vector<Ergebnissatz>())) {
+        ergebnis.ObjektAuf();
+        ergebnis.Feld("Ergebnisdatum", satz.Ergebnisdatum.Getrimmt());
+        ergebnis.Feld("Ergebnisbetrag", satz.Ergebnisbetrag);
+        ergebnis.Feld("Faktor", satz.Faktor);
+        ergebnis.Feld("Zeilenwert", satz.Zeilenwert);
+        ergebnis.Feld("Summenwert", satz.Summenwert);
+        ergebnis.Feld("Summenbetrag", satz.Summenbetrag);
+        ergebnis.ObjektZu();
+    }
+    ergebnis.ListeZu();
+}
+
+std::optional<Ablehnung> Rechne(const Wertauftrag& reihe, JsonSchreiber& ergebnis) {
+    if (reihe.Zahlungen.saetze.size() > HoechstzahlSaetze) throw Rechenfehler("Mehr als 32767 Zahlungen.");
+    const Reihenauswertung werte =
+        ReiheAuswerten(reihe.Zahlungen.saetze, reihe.Effektivmethode, reihe.Zinssatz, Tabellen::schreiben);
+    if (!werte.Meldung.empty()) return Ablehnung{werte.Meldung, "", ""};
+    ergebnis.Feld("Endwert", werte.Endwert.value());
+    ergebnis.Feld("Barwert", werte.Barwert.value());
+    TabelleSchreiben("Vendwertberechnung", werte.Vendwertberechnung, ergebnis);
+    TabelleSchreiben("Barwertberechnung", werte.Barwertberechnung, ergebnis);
+    return std::nullopt;
+}
+
+}  // namespace
+
+constexpr Rechnungsart rechnungReihenwert = Auftragsart<felder, Rechne>("reihenwert");
+
+}  // namespace zinfolio

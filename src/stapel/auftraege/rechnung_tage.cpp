@@ -1,0 +1,27 @@
+#include "kern/dates/periodenzinsen.h"
+#include "stapel/auftraege/listenfelder.h"
+#include "stapel/auftraege/rechnungen.h"
+#include "stapel/json/feldlesen.h"
+
+namespace zinfolio {
+namespace {
+
+struct Tage {
+    Datum Von;
+    Datum Bis;
+    zinfolio::Verzinsungsmethode Verzinsungsmethode{};
+};
+
+constexpr auto felder = Auftragsfelder(Pflichtfeld<&Tage::Von>("Von"), Pflichtfeld<&Tage::Bis>("Bis"),
+                                       Pflichtfeld<&Tage::Verzinsungsmethode>("Verzinsungsmethode"));
+
+std::optional<Ablehnung> Rechne(const Tage& tage, JsonSchreiber& ergebnis) {
+    ergebnis.Feld("Zinstage", Zinstage(tage.Von, tage.Bis, tage.Verzinsungsmethode));
+    return std::nullopt;
+}
+
+}  // namespace
+
+constexpr Rechnungsart rechnungTage = Auftragsart<felder, Rechne>("tage");
+
+}  // namespace zinfolio

@@ -1,0 +1,25 @@
+#include "kern/dates/zahlformat.h"
+#include "stapel/auftraege/rechnungen.h"
+#include "stapel/json/feldlesen.h"
+
+namespace zinfolio {
+namespace {
+
+struct Formatierung {
+    double Wert = 0;
+    std::string_view Muster;
+};
+
+constexpr auto felder =
+    Auftragsfelder(Pflichtfeld<&Formatierung::Wert>("Wert"), Pflichtfeld<&Formatierung::Muster>("Muster"));
+
+std::optional<Ablehnung> Rechne(const Formatierung& formatierung, JsonSchreiber& ergebnis) {
+    ergebnis.Feld("Text", Format(formatierung.Wert, Zahlmuster::Lesen(formatierung.Muster)));
+    return std::nullopt;
+}
+
+}  // namespace
+
+constexpr Rechnungsart rechnungZahlformat = Auftragsart<felder, Rechne>("zahlformat");
+
+}  // namespace zinfolio
