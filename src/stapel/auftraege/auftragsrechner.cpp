@@ -4,7 +4,7 @@
 #include <new>
 
 #include "kern/grund/meldungen.h"
-#include "stapel/auftraege/ablehnungsfelder.h"
+#include "stapel/auftraege/ergebnisse.h"
 #include "stapel/auftraege/rechnungen.h"
 #include "stapel/json/auftragsfehler.h"
 #include "stapel/json/jsonschreiber.h"

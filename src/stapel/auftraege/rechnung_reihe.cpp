@@ -6,9 +6,8 @@
 #include "kern/finmath/reiheauswerten.h"
 #include "kern/grund/rechenfehler.h"
 #include "kern/staffel/meldungen.h"
-#include "stapel/auftraege/herleitungszeilen.h"
-#include "stapel/auftraege/kontofelder.h"
-#include "stapel/auftraege/listenfelder.h"
+#include "stapel/auftraege/ergebnisse.h"
+#include "stapel/auftraege/felder.h"
 #include "stapel/auftraege/rechnungen.h"
 #include "stapel/json/feldlesen.h"
 

@@ -1,8 +1,7 @@
 #include "kern/dateien/satzdatei.h"
 #include "kern/finmath/reiheauswerten.h"
 #include "kern/grund/rechenfehler.h"
-#include "stapel/auftraege/kontofelder.h"
-#include "stapel/auftraege/listenfelder.h"
+#include "stapel/auftraege/felder.h"
 #include "stapel/auftraege/rechnungen.h"
 #include "stapel/json/feldlesen.h"
 

@@ -1,9 +1,8 @@
 #include <string>
 
-#include "stapel/auftraege/kontofelder.h"
-#include "stapel/auftraege/listenfelder.h"
+#include "stapel/auftraege/ergebnisse.h"
+#include "stapel/auftraege/felder.h"
 #include "stapel/auftraege/rechnungen.h"
-#include "stapel/auftraege/staffelergebnis.h"
 #include "stapel/json/feldlesen.h"
 
 namespace zinfolio {

@@ -1,5 +1,5 @@
 #include "kern/dates/periodenzinsen.h"
-#include "stapel/auftraege/listenfelder.h"
+#include "stapel/auftraege/felder.h"
 #include "stapel/auftraege/rechnungen.h"
 #include "stapel/json/feldlesen.h"
 

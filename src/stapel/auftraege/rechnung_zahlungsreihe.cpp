@@ -2,9 +2,9 @@
 #include <vector>
 
 #include "kern/staffel/zahlungseingabe.h"
-#include "stapel/auftraege/listenfelder.h"
+#include "stapel/auftraege/ergebnisse.h"
+#include "stapel/auftraege/felder.h"
 #include "stapel/auftraege/rechnungen.h"
-#include "stapel/auftraege/satztext.h"
 #include "stapel/json/feldlesen.h"
 
 namespace zinfolio {

@@ -1,7 +1,7 @@
 #include <vector>
 
 #include "kern/staffel/zinstermine.h"
-#include "stapel/auftraege/listenfelder.h"
+#include "stapel/auftraege/felder.h"
 #include "stapel/auftraege/rechnungen.h"
 #include "stapel/json/feldlesen.h"
 

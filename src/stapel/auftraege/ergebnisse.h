@@ -1,15 +1,30 @@
 #pragma once
-// A calculated account, as the job `staffel` and the command of that name show it.
+// How what several kinds of jobs, and the commands beside them, give is written.
 
 #include <optional>
+#include <span>
 #include <string>
+#include <string_view>
 
+#include "kern/finmath/reihensatz.h"
 #include "kern/grund/ablehnung.h"
 #include "kern/staffel/konto.h"
 #include "kern/staffel/kontoeffektivzins.h"
 #include "stapel/json/jsonschreiber.h"
 
 namespace zinfolio {
+
+/// Appends the fields of a refusal to the open object of a result: `Meldung`, `Feld` and `Register`, the last
+/// two null where there is none.
+void AblehnungsfelderSchreiben(const Ablehnung& ablehnung, JsonSchreiber& schreiber);
+
+/// Writes a text of a record (Windows-1252) as the next value.
+void SatztextSchreiben(std::string_view windows1252, JsonSchreiber& ergebnis);
+
+/// Appends the derivation of an effective rate as a field: a list of rows, each a list of the cell texts. A
+/// cell that cannot be shown is a fault.
+void HerleitungSchreiben(std::string_view name, std::span<const Ergebnissatz> zeilen,
+                         JsonSchreiber& ergebnis);
 
 /// The account, the texts of the three labels below its statement, and its yield if that was asked for.
 struct Staffelergebnis {
