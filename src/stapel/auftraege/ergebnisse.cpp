@@ -110,27 +110,6 @@ class Zeilenschreiber {
     std::string konditionstext;
 };
 
-/// Throws a `Rechenfehler` for rows with a number that is not finite, or together too large to be one.
-void EndlichkeitPruefen(std::span<const Staffelsatz> zeilen) {
-    for (const Staffelsatz& satz : zeilen) {
-        const double summe =
-            satz.Zahlbetrag + satz.Periodenzins + satz.Kumulzins + satz.Zinsgutschrift + satz.Kontostand;
-        if (!std::isfinite(summe)) throw Rechenfehler("Eine Zeile der Staffel ist zu groß.");
-    }
-}
-
-/// Calculated rows as a list of objects, as the next value: the fields of a record in their order, without
-/// those that only files need. REQUIRES: finite numbers.
-void StaffelzeilenSchreiben(std::span<const Staffelsatz> zeilen, JsonSchreiber& ergebnis) {
-    Zeilenschreiber schreiber;
-    ergebnis.ListeAuf();
-    for (const Staffelsatz& satz : zeilen) {
-        ergebnis.Fertiges(schreiber.Zeile(satz));
-        ergebnis.Abfliessen();
-    }
-    ergebnis.ListeZu();
-}
-
 void EffektivzinsSchreiben(const Kontoeffektivzins& effektivzins, JsonSchreiber& schreiber) {
     schreiber.Feld("ezins", effektivzins.ezins);
     schreiber.Feld("Effektivergebnis", effektivzins.Effektivergebnis);
@@ -147,6 +126,38 @@ void AblehnungsfelderSchreiben(const Ablehnung& ablehnung, JsonSchreiber& schrei
 
 void SatztextSchreiben(std::string_view windows1252, JsonSchreiber& ergebnis) {
     ergebnis.Wert(std::string_view(NachUtf8(windows1252)));
+}
+
+void ZelltexteSchreiben(std::string_view name, std::span<const std::vector<std::string>> zeilen,
+                        JsonSchreiber& ergebnis) {
+    ergebnis.Name(name);
+    ergebnis.ListeAuf();
+    for (const std::vector<std::string>& zeile : zeilen) {
+        ergebnis.ListeAuf();
+        for (const std::string& zelle : zeile)
+            ergebnis.Wert(std::string_view(zelle));
+        ergebnis.ListeZu();
+    }
+    ergebnis.ListeZu();
+}
+
+void EndlichkeitPruefen(std::span<const Staffelsatz> zeilen) {
+    for (const Staffelsatz& satz : zeilen) {
+        const double summe =
+            satz.Zahlbetrag + satz.Periodenzins + satz.Kumulzins + satz.Zinsgutschrift + satz.Kontostand;
+        if (!std::isfinite(summe)) throw Rechenfehler("Eine Zeile der Staffel ist zu groß.");
+    }
+}
+
+void StaffelzeilenSchreiben(std::span<const Staffelsatz> zeilen, JsonSchreiber& ergebnis) {
+    Zeilenschreiber schreiber;
+    ergebnis.Name("Zeilen");
+    ergebnis.ListeAuf();
+    for (const Staffelsatz& satz : zeilen) {
+        ergebnis.Fertiges(schreiber.Zeile(satz));
+        ergebnis.Abfliessen();
+    }
+    ergebnis.ListeZu();
 }
 
 void HerleitungSchreiben(std::string_view name, std::span<const Ergebnissatz> zeilen,
@@ -186,7 +197,6 @@ std::optional<Ablehnung> StaffelRechnen(Staffelergebnis& ergebnis, std::optional
 
 void StaffelergebnisSchreiben(const Staffelergebnis& ergebnis, JsonSchreiber& schreiber) {
     if (!ergebnis.effektivzins) schreiber.Festlegen();
-    schreiber.Name("Zeilen");
     StaffelzeilenSchreiben(ergebnis.konto.loesung, schreiber);
     schreiber.Feld("Gesamtzahlungssumme", ergebnis.Gesamtzahlungssumme);
     schreiber.Feld("Endvermögen", ergebnis.Endvermögen);

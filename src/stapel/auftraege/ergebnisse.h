@@ -5,6 +5,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "kern/finmath/reihensatz.h"
 #include "kern/grund/ablehnung.h"
@@ -20,6 +21,17 @@ void AblehnungsfelderSchreiben(const Ablehnung& ablehnung, JsonSchreiber& schrei
 
 /// Writes a text of a record (Windows-1252) as the next value.
 void SatztextSchreiben(std::string_view windows1252, JsonSchreiber& ergebnis);
+
+/// Appends rows of cell texts (UTF-8), as the user sees them, as a field: a list of lists.
+void ZelltexteSchreiben(std::string_view name, std::span<const std::vector<std::string>> zeilen,
+                        JsonSchreiber& ergebnis);
+
+/// Throws a `Rechenfehler` for rows with a number that is not finite, or together too large to be one.
+void EndlichkeitPruefen(std::span<const Staffelsatz> zeilen);
+
+/// Appends calculated rows as the field `Zeilen`: objects of the fields of a record in their order, without
+/// those that only files need. REQUIRES: finite numbers.
+void StaffelzeilenSchreiben(std::span<const Staffelsatz> zeilen, JsonSchreiber& ergebnis);
 
 /// Appends the derivation of an effective rate as a field: a list of rows, each a list of the cell texts. A
 /// cell that cannot be shown is a fault.

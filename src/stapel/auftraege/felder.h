@@ -10,7 +10,7 @@
 #include "kern/staffel/staffelsatz.h"
 #include "kern/staffel/zahlungseingabe.h"
 #include "kern/staffel/zinstermine.h"
-#include "stapel/json/feldlesen.h"
+#include "stapel/json/feldtafel.h"
 
 namespace zinfolio {
 

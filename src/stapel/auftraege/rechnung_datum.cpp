@@ -1,6 +1,5 @@
 #include "kern/dates/datumpruefen.h"
 #include "stapel/auftraege/rechnungen.h"
-#include "stapel/json/feldlesen.h"
 
 namespace zinfolio {
 namespace {

@@ -1,7 +1,6 @@
 #include "kern/dates/periodenzinsen.h"
 #include "stapel/auftraege/felder.h"
 #include "stapel/auftraege/rechnungen.h"
-#include "stapel/json/feldlesen.h"
 
 namespace zinfolio {
 namespace {

@@ -3,7 +3,6 @@
 #include "kern/grund/rechenfehler.h"
 #include "stapel/auftraege/felder.h"
 #include "stapel/auftraege/rechnungen.h"
-#include "stapel/json/feldlesen.h"
 
 namespace zinfolio {
 namespace {

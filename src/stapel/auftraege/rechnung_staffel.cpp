@@ -3,7 +3,6 @@
 #include "stapel/auftraege/ergebnisse.h"
 #include "stapel/auftraege/felder.h"
 #include "stapel/auftraege/rechnungen.h"
-#include "stapel/json/feldlesen.h"
 
 namespace zinfolio {
 namespace {

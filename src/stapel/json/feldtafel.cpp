@@ -1,11 +1,11 @@
 #include "stapel/json/feldtafel.h"
 
-#include <cstdint>
-#include <string>
+#include <cmath>
+#include <limits>
 
 #include "stapel/json/auftragsfehler.h"
 
-namespace zinfolio::detail {
+namespace zinfolio {
 namespace {
 
 /// The row of a name, searched from `erwartet` on and round: fields mostly come in the order of their table.
@@ -19,7 +19,7 @@ std::size_t ZeileSuchen(std::span<const Feldzeile> zeilen, std::string_view name
 
 }  // namespace
 
-void ObjektLesen(JsonWert& wert, std::span<const Feldzeile> zeilen, void* ziel) {
+void detail::ObjektLesen(JsonWert& wert, std::span<const Feldzeile> zeilen, void* ziel) {
     const char* const anfang = wert.Stelle();
     std::uint64_t gelesen = 0;
     std::size_t erwartet = 0;
@@ -38,4 +38,46 @@ void ObjektLesen(JsonWert& wert, std::span<const Feldzeile> zeilen, void* ziel) 
     }
 }
 
-}  // namespace zinfolio::detail
+Datum DatumVerlangen(const JsonWert& wert, std::string_view text) {
+    const auto datum = Datum::Versuche(text);
+    if (datum) return *datum;
+    constexpr std::size_t zeigbar = 20;
+    wert.Ungueltig("muss ein Datum der Form tt.mm.jjjj sein, \"" + Gekuerzt(text, zeigbar) + "\" ist keines");
+}
+
+void FeldLesen(JsonWert& wert, double& ziel) {
+    ziel = wert.Zahl();
+}
+
+void FeldLesen(JsonWert& wert, float& ziel) {
+    ziel = static_cast<float>(wert.Zahl());
+    if (!std::isfinite(ziel)) wert.Ungueltig("liegt außerhalb des Bereichs einer 4-Byte-Gleitkommazahl");
+}
+
+void FeldLesen(JsonWert& wert, std::int16_t& ziel) {
+    using Grenzen = std::numeric_limits<std::int16_t>;
+    ziel = static_cast<std::int16_t>(wert.Ganzzahl(Grenzen::min(), Grenzen::max()));
+}
+
+void FeldLesen(JsonWert& wert, bool& ziel) {
+    ziel = wert.Ganzzahl(0, 1) == 1;
+}
+
+void FeldLesen(JsonWert& wert, std::string& ziel) {
+    ziel = wert.Text();
+}
+
+void FeldLesen(JsonWert& wert, std::string_view& ziel) {
+    ziel = wert.Text();
+}
+
+void FeldLesen(JsonWert& wert, Datum& ziel) {
+    ziel = DatumVerlangen(wert, wert.Text());
+}
+
+void FeldLesen(JsonWert& wert, Datumstext& ziel) {
+    ziel.text = wert.Text();
+    DatumVerlangen(wert, ziel.text);
+}
+
+}  // namespace zinfolio

@@ -1,15 +1,41 @@
 #pragma once
-// The fields of an object as a table: one row a field. Reading checks the whole object at this one place.
+// The fields of an object as a table: one row a field, read by the type of the member that it fills. Reading
+// checks the whole object at this one place.
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
+#include "kern/dates/datum.h"
 #include "stapel/json/jsonwert.h"
 
 namespace zinfolio {
+
+/// A real date that stays text on its way into a record. The view lives as long as the job's text.
+struct Datumstext {
+    std::string_view text;
+};
+
+/// The date of a text that `wert` has given; throws where it is none.
+Datum DatumVerlangen(const JsonWert& wert, std::string_view text);
+
+/// Each `FeldLesen` throws an `Auftragsfehler` where the value is of another kind or out of range.
+void FeldLesen(JsonWert& wert, double& ziel);
+/// A number that is rounded to a 4-byte float; one beyond that type's range is refused.
+void FeldLesen(JsonWert& wert, float& ziel);
+/// The range of the 2-byte type.
+void FeldLesen(JsonWert& wert, std::int16_t& ziel);
+/// 0 or 1, as check boxes are told.
+void FeldLesen(JsonWert& wert, bool& ziel);
+void FeldLesen(JsonWert& wert, std::string& ziel);
+/// The view lives as long as the job's text.
+void FeldLesen(JsonWert& wert, std::string_view& ziel);
+void FeldLesen(JsonWert& wert, Datum& ziel);
+void FeldLesen(JsonWert& wert, Datumstext& ziel);
 
 enum class Vorkommen : bool { darfFehlen, pflicht };
 
