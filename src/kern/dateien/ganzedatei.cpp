@@ -16,6 +16,13 @@ Deskriptor ZumLesen(const std::filesystem::path& datei) {
     return offene;
 }
 
+std::string Inhalt(const Deskriptor& offene, const std::filesystem::path& datei, std::size_t hoechstens) {
+    std::string bytes;
+    if (RestLesen(offene.Nummer(), hoechstens, bytes)) return bytes;
+    if (errno == EFBIG) throw Dateifehler({datei}, "Die Datei ist zu groß.");
+    throw Systemfehler(datei, "gelesen", errno);
+}
+
 }  // namespace
 
 bool RestLesen(int nummer, std::size_t hoechstens, std::string& text) {
@@ -39,10 +46,13 @@ bool RestLesen(int nummer, std::size_t hoechstens, std::string& text) {
 }
 
 std::string GanzeDateiLesen(const std::filesystem::path& datei, std::size_t hoechstens) {
-    const Deskriptor offene = ZumLesen(datei);
-    std::string bytes;
-    if (RestLesen(offene.Nummer(), hoechstens, bytes)) return bytes;
-    if (errno == EFBIG) throw Dateifehler({datei}, "Die Datei ist zu groß.");
+    return Inhalt(ZumLesen(datei), datei, hoechstens);
+}
+
+std::optional<std::string> DateiLesenFallsDa(const std::filesystem::path& datei, std::size_t hoechstens) {
+    const Deskriptor offene(datei, O_RDONLY);
+    if (offene.Offen()) return Inhalt(offene, datei, hoechstens);
+    if (errno == ENOENT) return std::nullopt;
     throw Systemfehler(datei, "gelesen", errno);
 }
 

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <optional>
 #include <string>
 
 namespace zinfolio {
@@ -13,6 +14,10 @@ namespace zinfolio {
 /// The bytes of a file as they are. A missing file is not created. Throws `Dateifehler`, also for more than
 /// `hoechstens` bytes.
 [[nodiscard]] std::string GanzeDateiLesen(const std::filesystem::path& datei, std::size_t hoechstens);
+
+/// The same; nothing for a missing file.
+[[nodiscard]] std::optional<std::string> DateiLesenFallsDa(const std::filesystem::path& datei,
+                                                           std::size_t hoechstens);
 
 /// Throws a `Dateifehler` for a file that is missing or cannot be opened for reading. Changes nothing.
 void LesbarkeitPruefen(const std::filesystem::path& datei);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <optional>
 #include <string_view>
 
 #include "kern/dateien/dateifehler.h"
@@ -15,64 +16,100 @@ constexpr std::int16_t KennungLeer = 0;
 constexpr std::int16_t KennungGanz = 2;
 constexpr std::int16_t KennungText = 8;
 
-constexpr std::size_t Vorspann = 2;    // the tag
-constexpr std::size_t Textlaenge = 2;  // the length in front of a text
-constexpr std::size_t Ganzbreite = 2;
+constexpr std::size_t Breite = 2;  // of the tag, of an integer and of the length in front of a text
+
+/// A value that runs over the end of its bytes.
+class Abgeschnitten : public Satzfehler {
+  public:
+    using Satzfehler::Satzfehler;
+};
 
 void Platzpruefen(std::size_t gebraucht, std::size_t vorhanden, std::string_view was) {
     if (gebraucht <= vorhanden) return;
-    throw Satzfehler(std::string(was) + " braucht " + std::to_string(gebraucht) + " Bytes, der Satz hat " +
-                     std::to_string(vorhanden) + ".");
+    throw Abgeschnitten(std::string(was) + " braucht " + std::to_string(gebraucht) + " Bytes, der Satz hat " +
+                        std::to_string(vorhanden) + ".");
 }
 
-void TextSchreiben(const std::string& utf8, std::span<std::byte> satz) {
+void TextSchreiben(const std::string& utf8, std::span<std::byte> satz, std::size_t vorspann) {
     const std::string bytes = NachWindows1252(utf8);
-    Platzpruefen(Vorspann + Textlaenge + bytes.size(), satz.size(), "Ein Text");
+    Platzpruefen(vorspann + Breite + bytes.size(), satz.size(), "Ein Text");
     if (bytes.size() > std::numeric_limits<std::uint16_t>::max()) throw Satzfehler("Der Text ist zu lang.");
-    Satzschreiber schreiber(satz);
-    schreiber.Ganz16(KennungText);
+    Satzschreiber schreiber(satz.subspan(vorspann));
     schreiber.Ganz16(static_cast<std::int16_t>(bytes.size()));
     std::transform(bytes.begin(), bytes.end(), satz.last(schreiber.Rest()).begin(),
                    [](char zeichen) { return static_cast<std::byte>(zeichen); });
 }
 
-std::string TextLesen(Satzleser leser, std::span<const std::byte> satz) {
-    Platzpruefen(Vorspann + Textlaenge, satz.size(), "Ein Text");
-    const auto laenge = static_cast<std::uint16_t>(leser.Ganz16());
-    Platzpruefen(Vorspann + Textlaenge + laenge, satz.size(), "Der Text");
+void ZahlSchreiben(std::int16_t zahl, std::span<std::byte> satz, std::size_t vorspann) {
+    Platzpruefen(vorspann + Breite, satz.size(), "Eine Zahl");
+    Satzschreiber(satz.subspan(vorspann)).Ganz16(zahl);
+}
+
+std::string TextLesen(std::span<const std::byte> satz, std::size_t vorspann) {
+    Platzpruefen(vorspann + Breite, satz.size(), "Ein Text");
+    const auto laenge = static_cast<std::uint16_t>(Satzleser(satz.subspan(vorspann)).Ganz16());
+    Platzpruefen(vorspann + Breite + laenge, satz.size(), "Der Text");
     std::string bytes(laenge, '\0');
-    std::transform(satz.begin() + (Vorspann + Textlaenge), satz.begin() + (Vorspann + Textlaenge + laenge),
-                   bytes.begin(), [](std::byte b) { return static_cast<char>(b); });
+    std::ranges::transform(satz.subspan(vorspann + Breite, laenge), bytes.begin(),
+                           [](std::byte b) { return static_cast<char>(b); });
     return NachUtf8(bytes);
+}
+
+std::int16_t ZahlLesen(std::span<const std::byte> satz, std::size_t vorspann) {
+    Platzpruefen(vorspann + Breite, satz.size(), "Eine Zahl");
+    return Satzleser(satz.subspan(vorspann)).Ganz16();
+}
+
+Selbstwert MitKennungLesen(std::span<const std::byte> satz) {
+    Platzpruefen(Breite, satz.size(), "Eine Typkennung");
+    switch (const std::int16_t kennung = Satzleser(satz).Ganz16()) {
+        case KennungLeer:
+            return {};
+        case KennungGanz:
+            return ZahlLesen(satz, Breite);
+        case KennungText:
+            return TextLesen(satz, Breite);
+        default:
+            throw Satzfehler("Unbekannte Typkennung " + std::to_string(kennung) + ".");
+    }
 }
 
 }  // namespace
 
-void SelbstwertSchreiben(const Selbstwert& wert, std::span<std::byte> satz) {
+void SelbstwertSchreiben(const Selbstwert& wert, std::span<std::byte> satz, Selbstform form) {
     std::fill(satz.begin(), satz.end(), std::byte{0});
-    if (const auto* text = std::get_if<std::string>(&wert)) return TextSchreiben(*text, satz);
-    if (const auto* zahl = std::get_if<std::int16_t>(&wert)) {
-        Platzpruefen(Vorspann + Ganzbreite, satz.size(), "Eine Zahl");
-        Satzschreiber schreiber(satz);
-        schreiber.Ganz16(KennungGanz);
-        schreiber.Ganz16(*zahl);
+    const std::size_t vorspann = form == Selbstform::MitKennung ? Breite : 0;
+    if (const auto* text = std::get_if<std::string>(&wert)) {
+        TextSchreiben(*text, satz, vorspann);
+        if (vorspann > 0) Satzschreiber(satz).Ganz16(KennungText);
+    } else if (const auto* zahl = std::get_if<std::int16_t>(&wert)) {
+        ZahlSchreiben(*zahl, satz, vorspann);
+        if (vorspann > 0) Satzschreiber(satz).Ganz16(KennungGanz);
     }
 }
 
-Selbstwert SelbstwertLesen(std::span<const std::byte> satz) {
-    Platzpruefen(Vorspann, satz.size(), "Eine Typkennung");
-    Satzleser leser(satz);
-    const std::int16_t kennung = leser.Ganz16();
-    switch (kennung) {
-        case KennungLeer:
-            return {};
-        case KennungGanz:
-            Platzpruefen(Vorspann + Ganzbreite, satz.size(), "Eine Zahl");
-            return leser.Ganz16();
-        case KennungText:
-            return TextLesen(leser, satz);
-        default:
-            throw Satzfehler("Unbekannte Typkennung " + std::to_string(kennung) + ".");
+Selbstwert SelbstwertLesen(std::span<const std::byte> satz, Selbstform form) {
+    switch (form) {
+        case Selbstform::NurText:
+            return TextLesen(satz, 0);
+        case Selbstform::NurZahl:
+            return ZahlLesen(satz, 0);
+        case Selbstform::MitKennung:
+            break;
+    }
+    return MitKennungLesen(satz);
+}
+
+Selbstwert SelbstwertAus(std::span<const std::byte> dateibytes, std::size_t satzlaenge, std::size_t satz,
+                         Selbstform form) {
+    const std::size_t anfang = (satz - 1) * satzlaenge;
+    if (anfang >= dateibytes.size()) return {};
+    const auto rest = dateibytes.subspan(anfang);
+    if (rest.size() >= satzlaenge) return SelbstwertLesen(rest.first(satzlaenge), form);
+    try {
+        return SelbstwertLesen(rest, form);
+    } catch (const Abgeschnitten&) {
+        return {};
     }
 }
 

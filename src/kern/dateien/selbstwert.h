@@ -11,28 +11,25 @@ namespace zinfolio {
 /// The value of a record that says itself what it holds: nothing, a 2-byte integer or a text (UTF-8).
 using Selbstwert = std::variant<std::monostate, std::int16_t, std::string>;
 
-/// Fills the whole record, little-endian: 2 bytes of type tag (0 empty, 2 integer, 8 text), then the integer,
-/// or the text in Windows-1252 behind its 2-byte length; zero bytes to the end. Throws `Satzfehler` when the
-/// value does not fit; the record is undefined then.
-void SelbstwertSchreiben(const Selbstwert& wert, std::span<std::byte> satz);
+/// How a record holds its value, little-endian. `MitKennung`: 2 bytes of type tag (0 empty, 2 integer, 8
+/// text), then the integer, or the text in Windows-1252 behind its 2-byte length. `NurText`, `NurZahl`: the
+/// same without the tag; all records of such a kind hold a value, zero bytes are an empty text and 0.
+enum class Selbstform { MitKennung, NurText, NurZahl };
+
+/// Fills the whole record; zero bytes from the value to the end. Throws `Satzfehler` when the value does not
+/// fit; the record is undefined then. REQUIRES: a value of the form's kind.
+void SelbstwertSchreiben(const Selbstwert& wert, std::span<std::byte> satz,
+                         Selbstform form = Selbstform::MitKennung);
 
 /// Reads such a record; a record of zero bytes, never written, is empty. Throws `Satzfehler` for an unknown
 /// tag and for a value that runs over the record's end.
-[[nodiscard]] Selbstwert SelbstwertLesen(std::span<const std::byte> satz);
+[[nodiscard]] Selbstwert SelbstwertLesen(std::span<const std::byte> satz,
+                                         Selbstform form = Selbstform::MitKennung);
 
-/// A record of N bytes that holds one such value, for `Satzdatei<Selbstsatz<N>>`.
-template <std::size_t N>
-struct Selbstsatz {
-    static constexpr std::size_t Satzlaenge = N;
-
-    Selbstwert wert;
-
-    void Schreiben(std::span<std::byte, N> ziel) const { SelbstwertSchreiben(wert, ziel); }
-    [[nodiscard]] static Selbstsatz Lesen(std::span<const std::byte, N> quelle) {
-        return {SelbstwertLesen(quelle)};
-    }
-
-    friend bool operator==(const Selbstsatz&, const Selbstsatz&) = default;
-};
+/// Record `satz` (from 1) of a file's bytes. Empty where the file has no such record. The last record may be
+/// shorter than `satzlaenge`: a file may end with its last value's own bytes. It counts where it holds tag
+/// and value wholly, and is empty where it is cut. Throws as `SelbstwertLesen`.
+[[nodiscard]] Selbstwert SelbstwertAus(std::span<const std::byte> dateibytes, std::size_t satzlaenge,
+                                       std::size_t satz, Selbstform form = Selbstform::MitKennung);
 
 }  // namespace zinfolio

@@ -30,8 +30,9 @@ struct Kontoeinstellungswerte {
 void KontoeinstellungenSchreiben(const std::filesystem::path& ordner,
                                  const Kontoeinstellungen& einstellungen);
 
-/// Reads it back, or a copy of it under another name (UTF-8). A missing or short file gives no values; a
-/// record that holds something else than its value, or a list index that the list lacks, is a `Dateifehler`.
+/// Reads it back, or a copy of it under another name (UTF-8). A missing file gives no values and is not
+/// created, a short one those that it holds wholly; a record that holds something else than its value, or a
+/// list index that the list lacks, is a `Dateifehler`.
 [[nodiscard]] Kontoeinstellungswerte KontoeinstellungenLesen(const std::filesystem::path& ordner,
                                                              std::string_view name = "Zinsverrechnung");
 

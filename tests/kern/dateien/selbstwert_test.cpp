@@ -1,14 +1,11 @@
 #include "kern/dateien/selbstwert.h"
 
 #include <array>
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <random>
 
 #include "kern/dateien/dateifehler.h"
 #include "kern/dateien/hex.h"
-#include "kern/dateien/satzdatei.h"
-#include "kern/dateien/testordner.h"
 
 namespace zinfolio {
 namespace {
@@ -79,38 +76,56 @@ TEST(SelbstwertLesen, WertUeberDasSatzendeWirdAbgelehnt) {
     EXPECT_THROW(Gelesen(2), Satzfehler);
 }
 
-TEST(Selbstsatz, DateiAusDreiWertenKommtGleichZurueck) {
-    const Testordner ordner;
-    const Satzdatei<Selbstsatz<30>> datei(ordner.Pfad(), "Zinsverrechnung");
-    const std::vector<Selbstsatz<30>> werte{{Zahl(2)}, {std::string("31.12.2008")}, {Zahl(0)}};
-    datei.Schreiben(werte);
-    EXPECT_EQ(ordner.Inhalt("Zinsverrechnung").size(), 90U);
-    EXPECT_EQ(datei.Lesen(), werte);
+TEST(SelbstwertSchreiben, OhneKennungNurDerWert) {
+    std::array<std::byte, 8> satz{};
+    satz.fill(std::byte{0xAA});
+    SelbstwertSchreiben(std::string("für"), satz, Selbstform::NurText);
+    EXPECT_EQ(Hex(satz), "03 00 66 FC 72 00 00 00");
+    SelbstwertSchreiben(Zahl(-2), satz, Selbstform::NurZahl);
+    EXPECT_EQ(Hex(satz), "FE FF 00 00 00 00 00 00");
 }
 
-TEST(Selbstsatz, FehlerNenntDateiUndSatz) {
-    const Testordner ordner;
-    std::string inhalt(90, '\0');
-    inhalt[30] = 5;
-    ordner.Ablegen("Zinsverrechnung", inhalt);
-    const Satzdatei<Selbstsatz<30>> datei(ordner.Pfad(), "Zinsverrechnung");
-    EXPECT_THAT([&] { (void)datei.Lesen(); },
-                testing::ThrowsMessage<Dateifehler>("Datei \"" + datei.Pfad().string() +
-                                                    "\", Satz 2: Unbekannte Typkennung 5."));
+TEST(SelbstwertLesen, OhneKennungSindNullbytesEinLeererTextUndNull) {
+    const std::array<std::byte, 4> nullen{};
+    EXPECT_EQ(SelbstwertLesen(nullen, Selbstform::NurText), Selbstwert(std::string()));
+    EXPECT_EQ(SelbstwertLesen(nullen, Selbstform::NurZahl), Selbstwert(Zahl(0)));
 }
 
-TEST(Selbstsatz, ZuLangerTextLaesstDieAlteDateiStehen) {
-    const Testordner ordner;
-    const Satzdatei<Selbstsatz<30>> datei(ordner.Pfad(), "Zinsverrechnung");
-    datei.Schreiben(std::vector<Selbstsatz<30>>{{Zahl(1)}});
-    const std::vector<Selbstsatz<30>> werte{{Zahl(2)}, {std::string(27, 'x')}};
-    EXPECT_THAT([&] { datei.Schreiben(werte); },
-                testing::ThrowsMessage<Dateifehler>(testing::AllOf(
-                    testing::HasSubstr("Satz 2"), testing::HasSubstr("31 Bytes, der Satz hat 30"))));
-    EXPECT_EQ(datei.Lesen(), (std::vector<Selbstsatz<30>>{{Zahl(1)}}));
+/// Two records of 6 bytes: the text "für" does not fit, "fü" does.
+Selbstwert Zweiter(std::string_view dateibytes) {
+    return SelbstwertAus(std::as_bytes(std::span(dateibytes)), 6, 2);
 }
 
-TEST(Selbstsatz, ZufallsbytesSindWertOderFehler) {
+TEST(SelbstwertAus, LetzterSatzZaehltWennErKennungUndWertGanzHaelt) {
+    constexpr std::string_view zahl("\2\0\1\0??\2\0\7\0??", 12);
+    for (const std::size_t laenge : {10U, 11U, 12U})
+        EXPECT_EQ(Zweiter(zahl.substr(0, laenge)), Selbstwert(Zahl(7))) << laenge;
+    constexpr std::string_view text("\2\0\1\0??\10\0\1\0x?", 12);
+    EXPECT_EQ(Zweiter(text.substr(0, 11)), Selbstwert(std::string("x")));
+}
+
+TEST(SelbstwertAus, AbgeschnittenerWertImLetztenSatzIstLeer) {
+    constexpr std::string_view zahl("\2\0\1\0??\2\0\7\0??", 12);
+    for (const std::size_t laenge : {7U, 8U, 9U})
+        EXPECT_EQ(Zweiter(zahl.substr(0, laenge)), Selbstwert()) << laenge;
+    constexpr std::string_view text("\2\0\1\0??\10\0\1\0x?", 12);
+    EXPECT_EQ(Zweiter(text.substr(0, 10)), Selbstwert());
+}
+
+TEST(SelbstwertAus, UnbekannteKennungIstAuchImKurzenSatzEinFehler) {
+    EXPECT_THROW((void)Zweiter(std::string_view("\2\0\1\0??\3\0\7\0", 10)), Satzfehler);
+}
+
+TEST(SelbstwertAus, GanzerSatzDessenWertDarueberHinausgehtIstEinFehler) {
+    EXPECT_THROW((void)Zweiter(std::string_view("\2\0\1\0??\10\0\3\0xx", 12)), Satzfehler);
+}
+
+TEST(SelbstwertAus, FehlenderSatzIstLeer) {
+    EXPECT_EQ(Zweiter(""), Selbstwert());
+    EXPECT_EQ(Zweiter(std::string_view("\2\0\1\0??", 6)), Selbstwert());
+}
+
+TEST(SelbstwertLesen, ZufallsbytesSindWertOderFehler) {
     std::mt19937 zufall(7);
     int werte = 0;
     int fehler = 0;

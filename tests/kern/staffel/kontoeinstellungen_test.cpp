@@ -71,14 +71,21 @@ TEST_F(KontoeinstellungenTest, FehlendeDateiGibtKeineWerte) {
     EXPECT_EQ(werte.Verzinsungsmethode, std::nullopt);
 }
 
-TEST_F(KontoeinstellungenTest, KurzeDateiGibtDieGanzenSaetze) {
+// Record 1 ends its value at byte 4, record 2 at 30 + 14, record 3 at 60 + 4.
+TEST_F(KontoeinstellungenTest, KurzeDateiGibtJedenGanzenWert) {
     const std::string ganz = art + datum + methode;
-    for (const std::size_t laenge : {0U, 29U, 30U, 59U, 60U, 89U, 90U}) {
+    for (const std::size_t laenge : {0U, 1U, 3U, 4U, 30U, 31U, 43U, 44U, 60U, 63U, 64U, 90U}) {
         const Kontoeinstellungswerte werte = Gelesen(ganz.substr(0, laenge));
-        EXPECT_EQ(werte.Zinsverrechnungsart.has_value(), laenge >= 30) << laenge;
-        EXPECT_EQ(werte.Kontodatum.has_value(), laenge >= 60) << laenge;
-        EXPECT_EQ(werte.Verzinsungsmethode.has_value(), laenge >= 90) << laenge;
+        EXPECT_EQ(werte.Zinsverrechnungsart.has_value(), laenge >= 4) << laenge;
+        EXPECT_EQ(werte.Kontodatum.has_value(), laenge >= 44) << laenge;
+        EXPECT_EQ(werte.Verzinsungsmethode.has_value(), laenge >= 64) << laenge;
     }
+}
+
+// A writer that ends the file with the last value's own bytes leaves 64 of them.
+TEST_F(KontoeinstellungenTest, DateiDieMitDemLetztenWertEndetBehaeltDieVerzinsungsmethode) {
+    EXPECT_EQ(Gelesen((art + datum + methode).substr(0, 64)).Verzinsungsmethode,
+              Verzinsungsmethode::englisch);
 }
 
 TEST_F(KontoeinstellungenTest, LeereSaetzeGebenKeinenWert) {
