@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "rechnen.h"
-#include "stapel/json/jsonid.h"
+#include "stapel/json/jsonleser.h"
 
 namespace zinfolio {
 namespace {

@@ -6,7 +6,7 @@
 #include "stapel/befehle/befehle.h"
 #include "stapel/befehle/kanal.h"
 #include "stapel/befehle/zeilenleser.h"
-#include "stapel/json/jsoneinzug.h"
+#include "stapel/json/jsonschreiber.h"
 
 namespace zinfolio {
 namespace {

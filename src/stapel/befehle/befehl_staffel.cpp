@@ -20,7 +20,7 @@
 #include "stapel/befehle/kanal.h"
 #include "stapel/befehle/kontocsv.h"
 #include "stapel/befehle/pdfmodul.h"
-#include "stapel/json/jsoneinzug.h"
+#include "stapel/json/jsonschreiber.h"
 
 namespace zinfolio {
 namespace {

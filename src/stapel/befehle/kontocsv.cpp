@@ -8,7 +8,7 @@
 
 #include "kern/dates/datum.h"
 #include "kern/dates/zahl.h"
-#include "stapel/json/feldpfad.h"
+#include "stapel/json/auftragsfehler.h"
 
 namespace zinfolio {
 namespace {

@@ -1,7 +1,10 @@
 #pragma once
+// What is told of a text that is no valid job: where in it, and why.
 
+#include <cstddef>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
 namespace zinfolio {
 
@@ -17,5 +20,25 @@ class Auftragsfehler : public std::runtime_error {
   private:
     const char* stelle_;
 };
+
+/// The German words for an error code of the parser, to be put behind "kein gültiges JSON: ".
+[[nodiscard]] std::string_view JsonGrund(int fehlercode);
+
+/// Throws the `Auftragsfehler` for a text that is no JSON.
+[[noreturn]] void KeinJson(int fehlercode, const char* stelle);
+
+/// Where a value stands in its job: a field of `eltern` or, without a name, its element `index` (from 0). The
+/// job itself has no parent. Lives on the stack of whoever walks the job.
+struct Feldpfad {
+    const Feldpfad* eltern = nullptr;
+    std::string_view name{};
+    std::size_t index = 0;
+
+    /// "Zahlungen[3].Betrag"; long names are cut. Empty for the job itself.
+    [[nodiscard]] std::string Text() const;
+};
+
+/// At most `hoechstens` characters of a UTF-8 text, with "…" behind where something was cut.
+[[nodiscard]] std::string Gekuerzt(std::string_view utf8, std::size_t hoechstens);
 
 }  // namespace zinfolio

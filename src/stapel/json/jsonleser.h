@@ -15,6 +15,9 @@ namespace zinfolio {
 /// end or a zero byte, at which a job that is cut off stops; the others may hold anything.
 inline constexpr std::size_t nachlauf = 64;
 
+/// Deeper nesting in an `id` is refused: nobody needs it, and the walk uses the stack.
+inline constexpr int hoechsttiefe = 64;
+
 /// What is known of a job before its fields are read.
 struct Auftragskopf {
     /// The field as minified JSON, "null" where there is none (or none could be read yet).

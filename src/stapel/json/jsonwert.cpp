@@ -4,11 +4,24 @@
 #include <simdjson.h>
 
 #include "kern/dates/textteile.h"
-#include "stapel/json/auftragsfehler.h"
-#include "stapel/json/jsongrund.h"
 
 namespace zinfolio {
 namespace {
+
+/// Takes a run of digits from the front; false where there is none.
+bool NimmZiffern(std::string_view& text) {
+    std::size_t anzahl = 0;
+    while (anzahl < text.size() && IstZiffer(text[anzahl]))
+        ++anzahl;
+    text.remove_prefix(anzahl);
+    return anzahl > 0;
+}
+
+bool NimmEines(std::string_view& text, std::string_view zeichen) {
+    if (text.empty() || zeichen.find(text.front()) == std::string_view::npos) return false;
+    text.remove_prefix(1);
+    return true;
+}
 
 using Wert = simdjson::ondemand::value;
 
@@ -39,6 +52,22 @@ std::string Anfuehrung(const Feldpfad& pfad) {
 }
 
 }  // namespace
+
+bool IstJsonZahl(std::string_view text) {
+    NimmEines(text, "-");
+    if (!NimmEines(text, "0") && !NimmZiffern(text)) return false;
+    if (NimmEines(text, ".") && !NimmZiffern(text)) return false;
+    if (NimmEines(text, "eE")) {
+        NimmEines(text, "+-");
+        if (!NimmZiffern(text)) return false;
+    }
+    return text.empty();
+}
+
+std::string_view OhneRand(std::string_view token) {
+    const auto letztes = token.find_last_not_of(" \t\r\n");
+    return token.substr(0, letztes == std::string_view::npos ? 0 : letztes + 1);
+}
 
 const char* JsonWert::Stelle() const {
     return Als(wert).raw_json_token().data();

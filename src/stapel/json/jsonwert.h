@@ -5,10 +5,16 @@
 #include <string>
 #include <string_view>
 
-#include "stapel/json/feldpfad.h"
+#include "stapel/json/auftragsfehler.h"
 #include "stapel/json/rueckruf.h"
 
 namespace zinfolio {
+
+/// True where a text is a number by JSON's grammar, whatever its size.
+[[nodiscard]] bool IstJsonZahl(std::string_view text);
+
+/// A token of the parser without the white space behind it.
+[[nodiscard]] std::string_view OhneRand(std::string_view token);
 
 /// A value that stands at its place in the job. It is read once, in the order of the text: `Text`, `Zahl`,
 /// `Ganzzahl`, `Elemente` or `Felder`. Each refuses another kind of value by an `Auftragsfehler` that names
