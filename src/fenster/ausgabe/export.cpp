@@ -32,7 +32,7 @@ std::optional<fs::path> NachNamenFragen(const Exportauftrag& auftrag, const QStr
     const auto gewaehlt =
         DateiFragen(auftrag.fenster,
                     {.titel = "Exportieren",
-                     .filter = QString("Ratenspardateien (*.%1) |*.%1").arg(endung),
+                     .filter = auftrag.filter.arg(endung),
                      .endung = endung,
                      .vorgabe = auftrag.projektordner.isEmpty() ? QString() : auftrag.projektordner + '/'});
     if (!gewaehlt || gewaehlt->empty()) return std::nullopt;

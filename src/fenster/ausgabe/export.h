@@ -22,6 +22,8 @@ struct Exportauftrag {
     std::filesystem::path arbeitsordner;
     /// Where the save dialog begins; empty: where it was.
     QString projektordner;
+    /// The filter of the save dialog; %1 stands for the ending.
+    QString filter = "Ratenspardateien (*.%1) |*.%1";
 };
 
 /// The chosen file with the ending of its kind: the folder, then the last part of the name without its last

@@ -17,15 +17,17 @@
 
 namespace zinfolio {
 
-FormDiagramm::FormDiagramm(QWidget* eltern) : QWidget(eltern), Chart_(new Diagrammplot(this)) {
-    setObjectName("Frame6");
-    Chart_->setObjectName("Chart");
+FormDiagramm::FormDiagramm(const Diagrammart& art, QWidget* eltern)
+    : QWidget(eltern), Chart_(new Diagrammplot(this)) {
+    setObjectName(QString::fromUtf8(art.rahmen));
+    Chart_->setObjectName(QString::fromUtf8(art.diagramm));
     setFocusProxy(Chart_);
-    auto* Command8 = NeueTaste("Command8", "&Drucken", this, [this] { Drucken(); });
+    auto* drucken = NeueTaste(art.drucken, "Dru&cken", this, [this] { Drucken(); });
     auto* speichern = NeueTaste("Bildspeichern", "&Bild speichern", this, [this] { BildSpeichern(); });
-    auto* Command7 = NeueTaste("Command7", "&Zurück", this, [this] { emit zurueck(); });
+    auto* zuruecktaste =
+        NeueTaste(art.zurueck, QString::fromUtf8(art.zuruecktext), this, [this] { emit zurueck(); });
     auto* anordnung = new QVBoxLayout(this);
-    anordnung->addWidget(Seite(Chart_, {Command8, speichern, Command7}));
+    anordnung->addWidget(Seite(Chart_, {drucken, speichern, zuruecktaste}));
     BefehleAnlegen();
     Faerben();
 }
@@ -42,7 +44,7 @@ void FormDiagramm::BefehleAnlegen() {
         Chart_->addAction(aktion);
     };
     befehl("Bildkopieren", "Bild &kopieren", QKeySequence::Copy, [this] { BildKopieren(); });
-    befehl("Bildsichern", "Bild &speichern …", QKeySequence::Save, [this] { BildSpeichern(); });
+    befehl("Bildsichern", "Bild &speichern …", {}, [this] { BildSpeichern(); });
     befehl("Alleszeigen", "&Alles zeigen", {}, [this] { Chart_->AllesZeigen(); });
 }
 

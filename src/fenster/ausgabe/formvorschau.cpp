@@ -49,14 +49,15 @@ Seitenzoom ZoomAus(int wert) {
 
 }  // namespace
 
-FormVorschau::FormVorschau(std::filesystem::path arbeitsordner, QWidget* eltern)
+FormVorschau::FormVorschau(std::filesystem::path arbeitsordner, const Vorschauart& art, QWidget* eltern)
     : QWidget(eltern),
       arbeitsordner_(std::move(arbeitsordner)),
+      art_(art),
       VP_(new Seitenansicht("VP", this)),
       seitenzahl_(new QSpinBox(this)),
       zoom_(new QComboBox(this)),
       Combo18_(NeueAuswahl("Combo18", ziele, this)) {
-    setObjectName("Frame7");
+    setObjectName(QString::fromUtf8(art.rahmen));
     setFocusProxy(VP_);
     Zoomliste();
     auto* anordnung = new QVBoxLayout(this);
@@ -114,8 +115,8 @@ QHBoxLayout* FormVorschau::Seitenleiste() {
 }
 
 QHBoxLayout* FormVorschau::Exportzeile() {
-    auto* zeile = Tastenzeile({NeueTaste("Command12", "&Export", this, [this] { Exportieren(); }),
-                               NeueTaste("Command11", "&Zurück", this, [this] { emit zurueck(); })});
+    auto* zeile = Tastenzeile({NeueTaste(art_.exportieren, "&Export", this, [this] { Exportieren(); }),
+                               NeueTaste(art_.zurueck, "&Zurück", this, [this] { emit zurueck(); })});
     zeile->insertWidget(0, Combo18_);
     return zeile;
 }
@@ -176,7 +177,7 @@ void FormVorschau::showEvent(QShowEvent* ereignis) {
 
 void FormVorschau::Exportieren() {
     if (!maler_) return;
-    const Exportauftrag auftrag{this, arbeitsordner_, projektordner_};
+    const Exportauftrag auftrag{this, arbeitsordner_, projektordner_, QString::fromUtf8(art_.filter)};
     // The report lives until the export is done, whatever is shown meanwhile.
     const auto maler = maler_;
     Geschuetzt(this, [&] {

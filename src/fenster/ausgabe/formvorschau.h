@@ -17,6 +17,15 @@ namespace zinfolio {
 class Seitenansicht;
 class Seitenmaler;
 
+/// What differs between the previews of the calculators: the fixed names of their controls, and the filter of
+/// the save dialogs, in which %1 stands for the ending.
+struct Vorschauart {
+    const char* rahmen = "Frame7";
+    const char* exportieren = "Command12";
+    const char* zurueck = "Command11";
+    const char* filter = "Ratenspardateien (*.%1) |*.%1";
+};
+
 /// The frame in which every calculator shows its report, page by page, and from which it goes to the printer,
 /// to a file or to the clipboard.
 class FormVorschau : public QWidget {
@@ -24,7 +33,8 @@ class FormVorschau : public QWidget {
 
   public:
     /// `arbeitsordner` is where the fixed files `Zwispei.rtf` and `Zwispei.htm` lie.
-    explicit FormVorschau(std::filesystem::path arbeitsordner, QWidget* eltern = nullptr);
+    explicit FormVorschau(std::filesystem::path arbeitsordner, const Vorschauart& art = {},
+                          QWidget* eltern = nullptr);
 
     /// Composes a report and shows its first page. `bilden` is called again for the targets that compose the
     /// report anew, and must stay callable until the next report; what it throws here comes through, and the
@@ -51,6 +61,7 @@ class FormVorschau : public QWidget {
     void Exportieren();
 
     std::filesystem::path arbeitsordner_;
+    Vorschauart art_;
     QString projektordner_;
     std::function<Bericht()> bilden_;
     std::shared_ptr<const Seitenmaler> maler_;
