@@ -64,4 +64,9 @@ bool Datumsfeld::eventFilter(QObject* ziel, QEvent* ereignis) {
     return Eingabefeld::eventFilter(ziel, ereignis);
 }
 
+bool DatumSteht(const QWidget& fenster) {
+    auto* datum = qobject_cast<Datumsfeld*>(fenster.focusWidget());
+    return !datum || datum->DarfVerlassenWerden();
+}
+
 }  // namespace zinfolio

@@ -33,4 +33,7 @@ class Datumsfeld : public Eingabefeld {
     bool klickSchlucken_ = false;
 };
 
+/// Whether the date field with the focus, if the window has one, may be left.
+[[nodiscard]] bool DatumSteht(const QWidget& fenster);
+
 }  // namespace zinfolio
