@@ -1,0 +1,123 @@
+#include "fenster/rechner/projektablage.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <utility>
+
+#include "fenster/ui/datumsfeld.h"
+#include "fenster/ui/geschuetzt.h"
+
+namespace zinfolio {
+
+Projektablage::Projektablage(QWidget& fenster, Projektart art) : Ablage(fenster), art_(std::move(art)) {}
+
+std::vector<Befehlszeile> Projektablage::Befehle() {
+    return {
+        {"Neu", "neu", "&Neu", "Neue Datei", QKeySequence::New, [this] { NeuBeginnen(); }},
+        {"Öffnen", "oeffnen", "Ö&ffnen", "Datei öffnen", QKeySequence::Open, [this] { Oeffnen(); }},
+        {"Schnellspeich", "speichern", "&Speichern", "Speichern", QKeySequence::Save,
+         [this] { Speichern(); }},
+        {"Speich", "", "Speichern &unter", "Unter einem anderen Namen speichern",
+         QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), [this] { SpeichernUnter(); },
+         Befehlszeile::Ort::menue},
+    };
+}
+
+QWidget* Projektablage::NeueAnzeige() {
+    auto* anzeige = new QWidget;
+    auto* zeile = new QHBoxLayout(anzeige);
+    zeile->setContentsMargins(0, 0, 0, 0);
+    auto* Projekt = new QLabel(Name());
+    Projekt->setObjectName("Projekt");
+    connect(this, &Ablage::benannt, Projekt, [this, Projekt] { Projekt->setText(Name()); });
+    zeile->addWidget(new QLabel("Datei: "));
+    zeile->addWidget(Projekt);
+    return anzeige;
+}
+
+QString Projektablage::Name() const {
+    return datei_ ? QString::fromStdString(datei_->filename().string()) : QString();
+}
+
+QString Projektablage::Ordner() const {
+    return datei_ ? QString::fromStdString(datei_->parent_path().string()) : QString();
+}
+
+void Projektablage::Beginnen() {
+    art_.neu();
+    Benennen(std::nullopt);
+    emit gewechselt();
+}
+
+void Projektablage::NeuBeginnen() {
+    if (DatumSteht(*Fenster()) && AufgebenGewollt()) Beginnen();
+}
+
+void Projektablage::Oeffnen() {
+    if (!DatumSteht(*Fenster()) || !AufgebenGewollt()) return;
+    if (const auto datei = DateiFragen(Fenster(), Frage(Dateifrage::Zweck::oeffnen)))
+        Laden(*datei, Leseanlass::oeffnen);
+}
+
+void Projektablage::Laden(const std::filesystem::path& datei, Leseanlass anlass) {
+    const bool gelungen = GeschuetztMitWartezeiger(Fenster(), [&] {
+        art_.laden(datei, anlass);
+        Benennen(datei);
+        emit gewechselt();
+        Fenster()->setWindowModified(false);
+    });
+    if (gelungen) return;
+    // What was copied stays, but must not be saved over the project that it is a part of.
+    Benennen(std::nullopt);
+    if (art_.nachFehlschlag) Geschuetzt(Fenster(), art_.nachFehlschlag);
+    emit gewechselt();
+    Fenster()->setWindowModified(true);
+}
+
+bool Projektablage::Speichern() {
+    if (!datei_) return SpeichernUnter();
+    return DatumSteht(*Fenster()) && Festhalten() && ProjektSchreiben(*datei_);
+}
+
+bool Projektablage::SpeichernUnter() {
+    if (!DatumSteht(*Fenster()) || !Festhalten()) return false;
+    const auto datei = DateiFragen(Fenster(), Frage(Dateifrage::Zweck::speichern));
+    return datei && ProjektSchreiben(*datei);
+}
+
+bool Projektablage::Festhalten() {
+    return !art_.festhalten || Schreiben(art_.nichtGespeichert, art_.festhalten);
+}
+
+bool Projektablage::ProjektSchreiben(const std::filesystem::path& datei) {
+    if (!Schreiben(art_.nichtGespeichert, [&] { art_.speichern(datei); })) return false;
+    Laden(datei, Leseanlass::wiederladen);
+    return true;
+}
+
+void Projektablage::VorDerFrage() {
+    (void)Festhalten();
+}
+
+bool Projektablage::VorDemAbschied() {
+    return !art_.ordnen || Geschuetzt(Fenster(), art_.ordnen);
+}
+
+void Projektablage::Benennen(std::optional<std::filesystem::path> datei) {
+    datei_ = std::move(datei);
+    emit benannt();
+    Fenster()->setWindowModified(false);
+}
+
+Dateifrage Projektablage::Frage(Dateifrage::Zweck zweck) const {
+    const QString sache = QString::fromUtf8(art_.sache);
+    return {
+        .zweck = zweck,
+        .titel = sache + (zweck == Dateifrage::Zweck::oeffnen ? " öffnen" : " speichern"),
+        .filter = QString::fromUtf8(art_.filter),
+        .endung = QString::fromUtf8(art_.endung),
+        .vorgabe = datei_ ? QString::fromStdString(datei_->string()) : QString(),
+    };
+}
+
+}  // namespace zinfolio

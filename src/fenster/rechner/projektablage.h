@@ -1,0 +1,73 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <optional>
+
+#include "fenster/rechner/ablage.h"
+#include "fenster/ui/dateidialog.h"
+
+namespace zinfolio {
+
+/// Why a project is read: the user opens it, or it has just been saved and shows what it holds.
+enum class Leseanlass { oeffnen, wiederladen };
+
+/// What differs between the projects of the calculators.
+struct Projektart {
+    /// what the dialogs call it: "Konto"
+    const char* sache;
+    /// told before the reason: "Das Konto konnte nicht gespeichert werden."
+    const char* nichtGespeichert;
+    const char* filter;
+    /// without its point
+    const char* endung;
+
+    /// Begins anew: empties working files and controls.
+    std::function<void()> neu;
+    /// Brings a project into working files and controls. A fault comes through.
+    std::function<void(const std::filesystem::path&, Leseanlass)> laden;
+    /// Writes the project. A `Dateifehler` where that is not possible.
+    std::function<void(const std::filesystem::path&)> speichern;
+    /// Writes into the working files what only the controls hold: before every save, and before leaving;
+    /// optional.
+    std::function<void()> festhalten = {};
+    /// Puts the working files in order before the save of leaving; optional.
+    std::function<void()> ordnen = {};
+    /// Shows what the working files hold after a `laden` that failed; optional.
+    std::function<void()> nachFehlschlag = {};
+};
+
+/// A project in files that the user names: new, open, save, save as.
+class Projektablage : public Ablage {
+    Q_OBJECT
+
+  public:
+    Projektablage(QWidget& fenster, Projektart art);
+
+    void Beginnen() override;
+    bool Speichern() override;
+    [[nodiscard]] std::vector<Befehlszeile> Befehle() override;
+    [[nodiscard]] QWidget* NeueAnzeige() override;
+    [[nodiscard]] QString Name() const override;
+    [[nodiscard]] QString Ordner() const override;
+
+  protected:
+    void VorDerFrage() override;
+    [[nodiscard]] bool VorDemAbschied() override;
+
+  private:
+    void NeuBeginnen();
+    void Oeffnen();
+    bool SpeichernUnter();
+    void Laden(const std::filesystem::path& datei, Leseanlass anlass);
+    [[nodiscard]] bool Festhalten();
+    bool ProjektSchreiben(const std::filesystem::path& datei);
+    void Benennen(std::optional<std::filesystem::path> datei);
+    [[nodiscard]] Dateifrage Frage(Dateifrage::Zweck zweck) const;
+
+    Projektart art_;
+    /// None for a project without a name.
+    std::optional<std::filesystem::path> datei_;
+};
+
+}  // namespace zinfolio

@@ -1,0 +1,227 @@
+#include "fenster/rechner/rechner.h"
+
+#include <QCloseEvent>
+#include <QLineEdit>
+#include <QShortcut>
+#include <QStackedWidget>
+#include <QTabBar>
+#include <QTabWidget>
+
+#include "fenster/rechner/ablage.h"
+#include "fenster/ui/bausteine.h"
+#include "fenster/ui/datumsfeld.h"
+#include "fenster/ui/fenstergroesse.h"
+#include "fenster/ui/geschuetzt.h"
+#include "fenster/ui/meldungsfenster.h"
+
+namespace zinfolio {
+namespace {
+
+void Fokussieren(QWidget& feld) {
+    feld.setFocus();
+    if (auto* text = qobject_cast<QLineEdit*>(&feld)) text->selectAll();
+}
+
+constexpr const char* verlassentaste = "Verlassen";
+
+void BeiEscape(QWidget* seite, const std::function<void()>& wirkung) {
+    auto* taste = new QShortcut(QKeySequence(Qt::Key_Escape), seite);
+    taste->setObjectName(verlassentaste);
+    taste->setContext(Qt::WidgetWithChildrenShortcut);
+    QObject::connect(taste, &QShortcut::activated, seite, wirkung);
+}
+
+}  // namespace
+
+Rechner::Rechner(const Rechnerart& art, const std::filesystem::path& arbeitsordner)
+    : titel_(art.titel),
+      ende_(art.ende),
+      mitte_(new QStackedWidget(this)),
+      TabStrip1_(new QTabWidget),
+      herkunft_(TabStrip1_) {
+    setObjectName(QString::fromUtf8(art.name));
+    TabStrip1_->setObjectName("TabStrip1");
+    mitte_->addWidget(TabStrip1_);
+    AusgabenAnlegen(art, arbeitsordner);
+    setCentralWidget(mitte_);
+    RegistertastenAnlegen();
+    FenstergroesseHolen(*this, art.groesse);
+}
+
+void Rechner::AusgabenAnlegen(const Rechnerart& art, const std::filesystem::path& arbeitsordner) {
+    vorschau_ = new FormVorschau(arbeitsordner, art.vorschau);
+    connect(vorschau_, &FormVorschau::zurueck, this, &Rechner::Zurueck);
+    SeiteAnlegen(vorschau_);
+    for (const Diagrammart& diagrammart : art.diagramme) {
+        auto* diagramm = diagramme_.emplace_back(new FormDiagramm(diagrammart));
+        connect(diagramm, &FormDiagramm::zurueck, this, &Rechner::Zurueck);
+        SeiteAnlegen(diagramm);
+    }
+}
+
+void Rechner::Einrichten(Rechnerinhalt inhalt) {
+    inhalt_ = std::move(inhalt);
+    RegisterAnlegen();
+    LeisteAnlegen();
+    connect(inhalt_.ablage, &Ablage::benannt, this, &Rechner::TitelZeigen);
+    connect(inhalt_.ablage, &Ablage::gewechselt, this,
+            [this] { RegisterWaehlen(inhalt_.register_[0].seite); });
+    inhalt_.ablage->Beginnen();
+    TitelZeigen();
+}
+
+void Rechner::RegisterAnlegen() {
+    for (const Registerzeile& zeile : inhalt_.register_)
+        TabStrip1_->addTab(zeile.rollbar ? Rollbar(zeile.seite) : zeile.seite,
+                           QString::fromUtf8(zeile.titel));
+    connect(TabStrip1_, &QTabWidget::currentChanged, this, &Rechner::Betreten);
+    connect(TabStrip1_, &QTabWidget::tabBarClicked, this, [this](int stelle) {
+        // A click on another tab changes to it, which is told by its own signal.
+        const bool gewaehlt = stelle >= 0 && stelle == TabStrip1_->currentIndex();
+        if (gewaehlt && static_cast<std::size_t>(stelle) < inhalt_.register_.size() &&
+            inhalt_.register_[static_cast<std::size_t>(stelle)].erneut)
+            Betreten(stelle);
+    });
+}
+
+void Rechner::RegistertastenAnlegen() {
+    for (const auto& [taste, richtung] :
+         {std::pair(Qt::CTRL | Qt::Key_Tab, 1), std::pair(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, -1)}) {
+        auto* kuerzel = new QShortcut(QKeySequence(taste), this);
+        connect(kuerzel, &QShortcut::activated, this, [this, weite = richtung] { RegisterWechseln(weite); });
+    }
+}
+
+void Rechner::RegisterWechseln(int richtung) {
+    const int anzahl = TabStrip1_->count();
+    mitte_->setCurrentWidget(TabStrip1_);
+    TabStrip1_->setCurrentIndex((TabStrip1_->currentIndex() + richtung + anzahl) % anzahl);
+}
+
+void Rechner::Betreten(int stelle) {
+    // A tab that is there for a while has no row.
+    if (stelle < 0 || static_cast<std::size_t>(stelle) >= inhalt_.register_.size()) return;
+    const auto& betreten = inhalt_.register_[static_cast<std::size_t>(stelle)].betreten;
+    if (betreten) Geschuetzt(this, betreten);
+}
+
+int Rechner::Stelle(QWidget* seite) const {
+    for (int stelle = 0; stelle < TabStrip1_->count(); ++stelle) {
+        QWidget* reiter = TabStrip1_->widget(stelle);
+        if (reiter == seite || reiter->isAncestorOf(seite)) return stelle;
+    }
+    return -1;
+}
+
+void Rechner::RegisterWaehlen(QWidget* seite) {
+    mitte_->setCurrentWidget(TabStrip1_);
+    const int stelle = Stelle(seite);
+    if (stelle != TabStrip1_->currentIndex()) return TabStrip1_->setCurrentIndex(stelle);
+    if (inhalt_.register_[static_cast<std::size_t>(stelle)].erneut) Betreten(stelle);
+}
+
+void Rechner::RegisterZeigen(QWidget* seite) {
+    const QSignalBlocker ohneWirkung(TabStrip1_);
+    mitte_->setCurrentWidget(TabStrip1_);
+    TabStrip1_->setCurrentIndex(Stelle(seite));
+}
+
+void Rechner::RegisterAnhaengen(QWidget* seite, const char* titel, QWidget* herkunft) {
+    if (!RegisterVorhanden(seite)) TabStrip1_->addTab(seite, QString::fromUtf8(titel));
+    if (!seite->findChild<QShortcut*>(verlassentaste, Qt::FindDirectChildrenOnly))
+        BeiEscape(seite, [this, herkunft] { RegisterZeigen(herkunft); });
+    RegisterZeigen(seite);
+}
+
+void Rechner::RegisterEntfernen(QWidget* seite) {
+    if (const int stelle = TabStrip1_->indexOf(seite); stelle >= 0) TabStrip1_->removeTab(stelle);
+}
+
+bool Rechner::RegisterVorhanden(QWidget* seite) const {
+    return TabStrip1_->indexOf(seite) >= 0;
+}
+
+void Rechner::SeiteAnlegen(QWidget* seite) {
+    mitte_->addWidget(seite);
+    BeiEscape(seite, [this] { Zurueck(); });
+}
+
+void Rechner::SeiteZeigen(QWidget* seite) {
+    if (mitte_->currentWidget() != seite) herkunft_ = mitte_->currentWidget();
+    mitte_->setCurrentWidget(seite);
+}
+
+void Rechner::Zurueck() {
+    mitte_->setCurrentWidget(std::exchange(herkunft_, TabStrip1_));
+}
+
+bool Rechner::Ausfuehren(const Rechenschritt& schritt) {
+    std::optional<Ablehnung> ablehnung;
+    const bool gelungen = GeschuetztMitWartezeiger(this, [&] { ablehnung = schritt(); });
+    if (ablehnung) Ablehnen(*ablehnung);
+    return gelungen && !ablehnung;
+}
+
+bool Rechner::Rechnen(const Rechenschritt& schritt) {
+    bool abgelehnt = false;
+    const bool gelungen = Ausfuehren([&] {
+        auto ablehnung = schritt();
+        abgelehnt = ablehnung.has_value();
+        return ablehnung;
+    });
+    if (!gelungen && !abgelehnt) TabStrip1_->setCurrentIndex(0);
+    return gelungen;
+}
+
+void Rechner::Ablehnen(const Ablehnung& ablehnung) {
+    MeldungZeigen(this, {.text = Anzeigetext(ablehnung.Meldung)});
+    QWidget* bereich = TabStrip1_;
+    for (int stelle = 0; stelle < TabStrip1_->count(); ++stelle) {
+        if (TabStrip1_->tabText(stelle) != Anzeigetext(ablehnung.Register)) continue;
+        mitte_->setCurrentWidget(TabStrip1_);
+        TabStrip1_->setCurrentIndex(stelle);
+        bereich = TabStrip1_->widget(stelle);
+    }
+    if (ablehnung.Feld.empty()) return;
+    if (auto* feld = bereich->findChild<QWidget*>(QString::fromStdString(ablehnung.Feld))) Fokussieren(*feld);
+}
+
+void Rechner::Drucken(const std::function<Bericht()>& bilden) {
+    GeschuetztMitWartezeiger(this, [&] {
+        vorschau_->Zeigen(bilden, inhalt_.ablage->Ordner());
+        SeiteZeigen(vorschau_);
+    });
+}
+
+bool Rechner::Zeichnen(const Zeichenschritt& bilden, std::size_t nummer) {
+    return Ausfuehren([&]() -> std::optional<Ablehnung> {
+        auto ergebnis = bilden();
+        if (auto* grund = std::get_if<Ablehnung>(&ergebnis)) return std::move(*grund);
+        auto& diagramm = std::get<Diagramm>(ergebnis);
+        diagramm.titel = Projektname().toStdString();
+        diagramme_.at(nummer)->Zeigen(diagramm);
+        SeiteZeigen(diagramme_[nummer]);
+        return std::nullopt;
+    });
+}
+
+QString Rechner::Projektname() const {
+    return inhalt_.ablage->Name();
+}
+
+void Rechner::TitelZeigen() {
+    const QString name = Projektname();
+    const QString titel = QString::fromUtf8(titel_);
+    setWindowTitle(name.isEmpty() ? titel + "[*]" : titel + " – " + name + "[*]");
+}
+
+void Rechner::closeEvent(QCloseEvent* ereignis) {
+    bool gewollt = false;
+    Geschuetzt(this, [&] { gewollt = DatumSteht(*this) && inhalt_.ablage->VerlassenGewollt(); });
+    if (!gewollt) return ereignis->ignore();
+    FenstergroesseMerken(*this);
+    ereignis->accept();
+    emit verlassen();
+}
+
+}  // namespace zinfolio
