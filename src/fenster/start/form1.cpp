@@ -153,7 +153,8 @@ void Form1::ZinsstaffelrechnerOeffnen() {
         auto* rechner = new Form48000(arbeitsordner_);
         rechner->setAttribute(Qt::WA_DeleteOnClose);
         rechner->setWindowIcon(windowIcon());
-        connect(rechner, &Form48000::verlassen, this, &Form1::RechnerVerlassen);
+        connect(rechner, &Rechner::verlassen, this, &Form1::RechnerVerlassen);
+        connect(rechner, &Rechner::impressumVerlangt, rechner, [rechner] { ImpressumZeigen(rechner); });
         rechner->show();
         hide();
     });
