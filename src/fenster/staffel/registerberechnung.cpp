@@ -9,7 +9,6 @@
 #include "fenster/ui/bausteine.h"
 #include "fenster/ui/meldungsfenster.h"
 #include "fenster/ui/tabelle.h"
-#include "kern/dates/zahlformat.h"
 
 namespace zinfolio {
 namespace {
@@ -29,10 +28,6 @@ std::vector<Tabellenspalte> Tabellenspalten(std::span<const Ansichtsspalte> spal
     for (const Ansichtsspalte& spalte : spalten)
         ergebnis.push_back({Kopftext(spalte.kopf)});
     return ergebnis;
-}
-
-QString Betragstext(double betrag) {
-    return QString::fromStdString(Format(betrag, betragsmuster));
 }
 
 }  // namespace
@@ -122,9 +117,9 @@ void RegisterBerechnung::Zeigen(std::vector<Staffelsatz> loesung) {
     loesung_ = std::make_shared<const std::vector<Staffelsatz>>(std::move(loesung));
     TastenFreigeben(true);
     const Kontosummen summen = KontosummenBilden(*loesung_);
-    Gesamtzahlungssumme_->setText(Betragstext(summen.Gesamtzahlungssumme));
-    EV_->setText(Betragstext(summen.Endvermögen));
-    Geszins_->setText(Betragstext(summen.Gesamtzinsen));
+    Gesamtzahlungssumme_->setText(Anzeigetext(summen.Gesamtzahlungssumme));
+    EV_->setText(Anzeigetext(summen.Endvermögen));
+    Geszins_->setText(Anzeigetext(summen.Gesamtzinsen));
     AnsichtZeigen();
 }
 
@@ -146,9 +141,6 @@ Kontoberichtsdaten RegisterBerechnung::Berichtsdaten() const {
     Kontoberichtsdaten daten;
     daten.ezins = ezins_->text().toStdString();
     daten.effektivmethode = Effektivmethodentext(effektivmethode_);
-    daten.Gesamtzahlungssumme = Gesamtzahlungssumme_->text().toStdString();
-    daten.Gesamtzinsen = Geszins_->text().toStdString();
-    daten.Endvermögen = EV_->text().toStdString();
     daten.loesung = loesung_;
     daten.ansicht = static_cast<Kontoansicht>(Combo4_->currentIndex());
     return daten;

@@ -128,14 +128,16 @@ std::vector<std::size_t> Ansichtszeilen(Kontoansicht ansicht, std::span<const St
 }
 
 Kontosummen KontosummenBilden(std::span<const Staffelsatz> loesung) {
-    Kontosummen summen;
+    double zahlungen = 0;
+    double endvermoegen = 0;
     for (const Staffelsatz& satz : loesung) {
         if (satz.Zahlungsart == zahlungsart::kondition) continue;
-        summen.Gesamtzahlungssumme += satz.Zahlbetrag;
-        summen.Endvermögen = satz.Kontostand;
+        zahlungen += satz.Zahlbetrag;
+        endvermoegen = satz.Kontostand;
     }
-    summen.Gesamtzinsen = summen.Endvermögen - summen.Gesamtzahlungssumme;
-    return summen;
+    return {.Gesamtzahlungssumme = Format(zahlungen, betragsmuster),
+            .Endvermögen = Format(endvermoegen, betragsmuster),
+            .Gesamtzinsen = Format(endvermoegen - zahlungen, betragsmuster)};
 }
 
 }  // namespace zinfolio

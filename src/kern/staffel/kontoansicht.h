@@ -36,13 +36,13 @@ struct Ansichtsspalte {
 [[nodiscard]] std::vector<std::size_t> Ansichtszeilen(Kontoansicht ansicht,
                                                       std::span<const Staffelsatz> loesung);
 
-/// Totals over the rows of `kurzform`, in currency.
+/// Totals over the rows of `kurzform`, as labels, reports and results show them: amounts with two decimals.
 struct Kontosummen {
-    double Gesamtzahlungssumme = 0;
+    std::string Gesamtzahlungssumme{};
     /// The balance of the last row shown.
-    double Endvermögen = 0;
+    std::string Endvermögen{};
     /// `Endvermögen` less `Gesamtzahlungssumme`.
-    double Gesamtzinsen = 0;
+    std::string Gesamtzinsen{};
 };
 
 [[nodiscard]] Kontosummen KontosummenBilden(std::span<const Staffelsatz> loesung);

@@ -1,6 +1,7 @@
 #include "kern/staffel/kontobericht.h"
 
 #include <array>
+#include <span>
 #include <string_view>
 #include <utility>
 
@@ -117,9 +118,11 @@ std::vector<std::string> Kontokopfblock(const Kontoberichtsdaten& daten) {
         kopfblock.push_back(Zeile("Effektivzinssatzberechnungsmethode", daten.effektivmethode));
         kopfblock.push_back(Zeile("Effektivzinssatz ", daten.ezins + " %"));
     }
-    kopfblock.push_back(Zeile("Gesamtzahlungssumme", daten.Gesamtzahlungssumme));
-    kopfblock.push_back(Zeile("Gesamtzinsen", daten.Gesamtzinsen));
-    kopfblock.push_back(Zeile("Endvermögen", daten.Endvermögen));
+    const Kontosummen summen =
+        KontosummenBilden(daten.loesung ? std::span(*daten.loesung) : std::span<const Staffelsatz>());
+    kopfblock.push_back(Zeile("Gesamtzahlungssumme", summen.Gesamtzahlungssumme));
+    kopfblock.push_back(Zeile("Gesamtzinsen", summen.Gesamtzinsen));
+    kopfblock.push_back(Zeile("Endvermögen", summen.Endvermögen));
     kopfblock.emplace_back(konditionsueberschrift);
     KonditionenAnfuegen(kopfblock, daten.konditionen);
     return kopfblock;

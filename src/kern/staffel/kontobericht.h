@@ -21,12 +21,9 @@ struct Kontoberichtsdaten {
     std::string ezins;
     /// The text of its method.
     std::string effektivmethode;
-    std::string Gesamtzahlungssumme;
-    std::string Gesamtzinsen;
-    std::string Endvermögen;
     /// The rows of `ZinsstaffelZins`.
     std::vector<Staffelsatz> konditionen;
-    /// The calculated rows; none: the table is empty.
+    /// The calculated rows, over which the totals go; none: the table is empty.
     std::shared_ptr<const std::vector<Staffelsatz>> loesung;
     Kontoansicht ansicht = Kontoansicht::kurzform;
 };

@@ -11,7 +11,6 @@
 #include "kern/finmath/herleitung.h"
 #include "kern/grund/rechenfehler.h"
 #include "kern/grund/windows1252.h"
-#include "kern/staffel/kontoansicht.h"
 #include "stapel/json/zeilenpuffer.h"
 
 namespace zinfolio {
@@ -186,10 +185,7 @@ std::optional<Ablehnung> StaffelRechnen(Staffelergebnis& ergebnis, std::optional
         throw Rechenfehler("Mehr als 32767 Zahlungen oder Konditionen.");
     }
     if (auto ablehnung = KontoRechnen(konto)) return ablehnung;
-    const Kontosummen summen = KontosummenBilden(konto.loesung);
-    ergebnis.Gesamtzahlungssumme = Format(summen.Gesamtzahlungssumme, betragsmuster);
-    ergebnis.Endvermögen = Format(summen.Endvermögen, betragsmuster);
-    ergebnis.Gesamtzinsen = Format(summen.Gesamtzinsen, betragsmuster);
+    ergebnis.summen = KontosummenBilden(konto.loesung);
     EndlichkeitPruefen(konto.loesung);
     if (methode) ergebnis.effektivzins = KontoEffektivzinsRechnen(konto.loesung, *methode);
     return std::nullopt;
@@ -198,9 +194,9 @@ std::optional<Ablehnung> StaffelRechnen(Staffelergebnis& ergebnis, std::optional
 void StaffelergebnisSchreiben(const Staffelergebnis& ergebnis, JsonSchreiber& schreiber) {
     if (!ergebnis.effektivzins) schreiber.Festlegen();
     StaffelzeilenSchreiben(ergebnis.konto.loesung, schreiber);
-    schreiber.Feld("Gesamtzahlungssumme", ergebnis.Gesamtzahlungssumme);
-    schreiber.Feld("Endvermögen", ergebnis.Endvermögen);
-    schreiber.Feld("Gesamtzinsen", ergebnis.Gesamtzinsen);
+    schreiber.Feld("Gesamtzahlungssumme", ergebnis.summen.Gesamtzahlungssumme);
+    schreiber.Feld("Endvermögen", ergebnis.summen.Endvermögen);
+    schreiber.Feld("Gesamtzinsen", ergebnis.summen.Gesamtzinsen);
     if (ergebnis.effektivzins) EffektivzinsSchreiben(*ergebnis.effektivzins, schreiber);
 }
 

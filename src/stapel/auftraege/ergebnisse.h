@@ -10,6 +10,7 @@
 #include "kern/finmath/reihensatz.h"
 #include "kern/grund/ablehnung.h"
 #include "kern/staffel/konto.h"
+#include "kern/staffel/kontoansicht.h"
 #include "kern/staffel/kontoeffektivzins.h"
 #include "stapel/json/jsonschreiber.h"
 
@@ -38,12 +39,10 @@ void StaffelzeilenSchreiben(std::span<const Staffelsatz> zeilen, JsonSchreiber& 
 void HerleitungSchreiben(std::string_view name, std::span<const Ergebnissatz> zeilen,
                          JsonSchreiber& ergebnis);
 
-/// The account, the texts of the three labels below its statement, and its yield if that was asked for.
+/// The account, the three totals of its statement, and its yield if that was asked for.
 struct Staffelergebnis {
     Konto konto{};
-    std::string Gesamtzahlungssumme{};
-    std::string Endvermögen{};
-    std::string Gesamtzinsen{};
+    Kontosummen summen{};
     std::optional<Kontoeffektivzins> effektivzins{};
 };
 

@@ -132,9 +132,6 @@ Bericht BerichtBilden(const std::shared_ptr<const Staffelergebnis>& ergebnis, co
         daten.ezins = ergebnis->effektivzins->ezins;
         daten.effektivmethode = Effektivmethodentext(*aufruf.effektivmethode);
     }
-    daten.Gesamtzahlungssumme = ergebnis->Gesamtzahlungssumme;
-    daten.Gesamtzinsen = ergebnis->Gesamtzinsen;
-    daten.Endvermögen = ergebnis->Endvermögen;
     daten.konditionen = konto.konditionen;
     // Shares the whole result, of which the rows are a part.
     daten.loesung = {ergebnis, &konto.loesung};

@@ -10,7 +10,6 @@
 #include <vector>
 
 #include "kern/dates/datum.h"
-#include "kern/dates/zahlformat.h"
 #include "kern/staffel/herleitungsbericht.h"
 #include "kern/staffel/kontobericht.h"
 #include "kern/staffel/kontoeffektivzins.h"
@@ -47,16 +46,12 @@ inline std::vector<Staffelsatz> Probekonto(std::size_t zeilen) {
 
 inline Bericht Probekontobericht(Kontoansicht ansicht, std::size_t zeilen) {
     auto saetze = std::make_shared<const std::vector<Staffelsatz>>(Probekonto(zeilen));
-    const Kontosummen summen = KontosummenBilden(*saetze);
     Kontoberichtsdaten daten;
     daten.projekt = "Kontokorrent Müller & Söhne.ZiS";
     daten.einstellungen.Zinsverrechnungsart = Zinsverrechnungsart::quartalsende;
     daten.einstellungen.Kontodatum = "31.12.2024";
     daten.ezins = "3,14159";
     daten.effektivmethode = "PAngV2000";
-    daten.Gesamtzahlungssumme = Format(summen.Gesamtzahlungssumme, betragsmuster);
-    daten.Gesamtzinsen = Format(summen.Gesamtzinsen, betragsmuster);
-    daten.Endvermögen = Format(summen.Endvermögen, betragsmuster);
     daten.loesung = saetze;
     daten.ansicht = ansicht;
     for (const Staffelsatz& satz : *saetze)

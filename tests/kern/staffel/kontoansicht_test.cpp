@@ -168,9 +168,9 @@ TEST(KontosummenBilden, UeberDieZeilenDerKurzform) {
     Staffelberechnung(saetze, Verzinsungsmethode::deutsch);
     saetze.insert(saetze.begin() + 2, Zahlung("01.02.2007", -500.25));
     const Kontosummen summen = KontosummenBilden(saetze);
-    EXPECT_EQ(summen.Gesamtzahlungssumme, 14499.75);
-    EXPECT_EQ(summen.Endvermögen, 15000 + 86.53);
-    EXPECT_EQ(summen.Gesamtzinsen, (15000 + 86.53) - 14499.75);
+    EXPECT_EQ(summen.Gesamtzahlungssumme, "14.499,75");
+    EXPECT_EQ(summen.Endvermögen, "15.086,53");
+    EXPECT_EQ(summen.Gesamtzinsen, "586,78");
 }
 
 TEST(KontosummenBilden, KonditionszeilenZaehlenNicht) {
@@ -180,17 +180,17 @@ TEST(KontosummenBilden, KonditionszeilenZaehlenNicht) {
     saetze[2].Zahlbetrag = 99;
     saetze[2].Kontostand = 98;
     const Kontosummen summen = KontosummenBilden(saetze);
-    EXPECT_EQ(summen.Gesamtzahlungssumme, 15000);
-    EXPECT_EQ(summen.Endvermögen, 15000) << "the last row shown, not the last of all";
-    EXPECT_EQ(summen.Gesamtzinsen, 0);
+    EXPECT_EQ(summen.Gesamtzahlungssumme, "15.000,00");
+    EXPECT_EQ(summen.Endvermögen, "15.000,00") << "the last row shown, not the last of all";
+    EXPECT_EQ(summen.Gesamtzinsen, "0,00");
 }
 
 TEST(KontosummenBilden, OhneGezeigteZeilenSindNull) {
     for (const auto& saetze : {std::vector<Staffelsatz>{}, std::vector{Kondition("01.01.2007", {})}}) {
         const Kontosummen summen = KontosummenBilden(saetze);
-        EXPECT_EQ(summen.Gesamtzahlungssumme, 0);
-        EXPECT_EQ(summen.Endvermögen, 0);
-        EXPECT_EQ(summen.Gesamtzinsen, 0);
+        EXPECT_EQ(summen.Gesamtzahlungssumme, "0,00");
+        EXPECT_EQ(summen.Endvermögen, "0,00");
+        EXPECT_EQ(summen.Gesamtzinsen, "0,00");
     }
 }
 
