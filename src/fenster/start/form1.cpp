@@ -8,8 +8,10 @@
 #include <QVBoxLayout>
 #include <array>
 
+#include "fenster/hilfe/hilfefenster.h"
+#include "fenster/hilfe/impressum.h"
+#include "fenster/hilfe/netzwege.h"
 #include "fenster/staffel/form48000.h"
-#include "fenster/start/impressum.h"
 #include "fenster/start/programmstart.h"
 #include "fenster/start/rechnertaste.h"
 #include "fenster/ui/bausteine.h"
@@ -64,6 +66,11 @@ Form1::Form1(std::filesystem::path arbeitsordner) : arbeitsordner_(std::move(arb
     setWindowIcon(QIcon(":/zinfolio.svg"));
     wirkungen_ = {
         {"Zinsstaffelrechner", [this] { ZinsstaffelrechnerOeffnen(); }},
+        {"Hilfetext", [] { Hilfefenster::ZumFokus(); }},
+        {"Update", [this] { ImNetz([this] { NachNeuererVersionSehen(this, Herstellerserver()); }); }},
+        {"shop", [this] { ImNetz([this] { SeiteZeigen(this, Herstellerserver(), "/"); }); }},
+        {"FinSeminare",
+         [this] { ImNetz([this] { SeiteZeigen(this, Herstellerserver(), "/Seminare/Seminare.html"); }); }},
         {"Impr", [this] { ImpressumZeigen(this); }},
         {"Enden2", [] { QApplication::quit(); }},
     };
@@ -73,8 +80,8 @@ Form1::Form1(std::filesystem::path arbeitsordner) : arbeitsordner_(std::move(arb
     move(0, 0);
 }
 
-QAction* Form1::Eintrag(QWidget& menue, const char* name, const char* text) {
-    auto* eintrag = new QAction(QString::fromUtf8(text), this);
+QAction* Form1::Eintrag(QWidget& menue, const char* name, const QString& text) {
+    auto* eintrag = new QAction(text, this);
     eintrag->setObjectName(QString::fromUtf8(name));
     eintrag->setEnabled(wirkungen_.contains(name));
     connect(eintrag, &QAction::triggered, this, [this, name] { Oeffnen(name); });
@@ -95,7 +102,7 @@ void Form1::MenueAnlegen() {
     info->setObjectName("Info");
     Eintrag(*info, "Hilfetext", "Hilfe");
     Eintrag(*info, "Update", "Update - Download");
-    Eintrag(*info, "shop", "www.zinfolio.example");
+    Eintrag(*info, "shop", QUrl(ZINFOLIO_SERVER).host());
     Eintrag(*info, "FinSeminare", "Finanz - Seminare");
     Eintrag(*info, "Impr", "Impressum");
     Eintrag(leiste, "Enden2", "Ende");
@@ -158,6 +165,15 @@ void Form1::ZinsstaffelrechnerOeffnen() {
         rechner->show();
         hide();
     });
+}
+
+void Form1::ImNetz(const std::function<void()>& weg) {
+    if (imNetz_) return;
+    imNetz_ = true;
+    setCursor(Qt::WaitCursor);
+    Geschuetzt(this, weg);
+    unsetCursor();
+    imNetz_ = false;
 }
 
 void Form1::RechnerVerlassen() {

@@ -28,12 +28,15 @@ class Form1 : public QMainWindow {
     void MenueAnlegen();
     void TafelAnlegen();
     void Gruppe(QBoxLayout& tafel, const QString& titel, std::span<const Rechnereintrag> rechner);
-    QAction* Eintrag(QWidget& menue, const char* name, const char* text);
+    QAction* Eintrag(QWidget& menue, const char* name, const QString& text);
     void Oeffnen(std::string_view name);
     void ZinsstaffelrechnerOeffnen();
     void RechnerVerlassen();
+    /// Goes a way into the web; a second one waits until the first has ended.
+    void ImNetz(const std::function<void()>& weg);
 
     std::filesystem::path arbeitsordner_;
+    bool imNetz_ = false;
     /// What the entries of the menu do, by name; an entry without one is shown, but not offered.
     std::map<std::string_view, std::function<void()>> wirkungen_;
 };

@@ -1,5 +1,6 @@
 #include <QApplication>
 
+#include "fenster/hilfe/hilfetaste.h"
 #include "fenster/start/form1.h"
 #include "fenster/start/programmstart.h"
 #include "fenster/ui/deutsch.h"
@@ -37,6 +38,8 @@ int main(int argc, char** argv) {
     DeutscheTexteLaden(programm);
     Entertaste entertaste;
     programm.installEventFilter(&entertaste);
+    Hilfetaste hilfetaste;
+    programm.installEventFilter(&hilfetaste);
     const auto ordner = Arbeitsordner();
     std::optional<Ordnersperre> sperre;
     if (!OrdnerBereit(ordner, sperre)) return 1;

@@ -30,11 +30,12 @@ struct Tasten {
 };
 
 constexpr Tasten hinweistasten{QMessageBox::Ok, QMessageBox::Ok};
+constexpr Tasten bestaetigungstasten{QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel};
 constexpr Tasten fragetasten{QMessageBox::Yes | QMessageBox::No, QMessageBox::No};
 constexpr Tasten abbruchtasten{QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Cancel};
 
 Antwort AntwortAus(int taste) {
-    if (taste == QMessageBox::Yes) return Antwort::ja;
+    if (taste == QMessageBox::Yes || taste == QMessageBox::Ok) return Antwort::ja;
     return taste == QMessageBox::Cancel ? Antwort::abbrechen : Antwort::nein;
 }
 
@@ -55,6 +56,10 @@ void MeldungZeigen(QWidget* fenster, const Meldungsinhalt& inhalt, Meldungsart a
 
 bool Fragen(QWidget* fenster, const Meldungsinhalt& inhalt) {
     return Zeigen(fenster, Meldungsart::frage, inhalt, fragetasten) == Antwort::ja;
+}
+
+bool Bestaetigen(QWidget* fenster, const Meldungsinhalt& inhalt) {
+    return Zeigen(fenster, Meldungsart::warnung, inhalt, bestaetigungstasten) == Antwort::ja;
 }
 
 Antwort FragenMitAbbruch(QWidget* fenster, const Meldungsinhalt& inhalt) {

@@ -27,6 +27,9 @@ void MeldungZeigen(QWidget* fenster, const Meldungsinhalt& inhalt, Meldungsart a
 /// Asks a question with Yes and No; closing the box is No.
 [[nodiscard]] bool Fragen(QWidget* fenster, const Meldungsinhalt& inhalt);
 
+/// Tells something that the user may still stop, with OK and Cancel; closing the box is Cancel. True for OK.
+[[nodiscard]] bool Bestaetigen(QWidget* fenster, const Meldungsinhalt& inhalt);
+
 /// Asks a question with Yes, No and Cancel; closing the box is Cancel.
 [[nodiscard]] Antwort FragenMitAbbruch(QWidget* fenster, const Meldungsinhalt& inhalt);
 
