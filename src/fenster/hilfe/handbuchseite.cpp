@@ -6,6 +6,7 @@
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QTextBlock>
+#include <QTextTable>
 
 #include "fenster/hilfe/hilfethema.h"
 
@@ -13,6 +14,20 @@ namespace zinfolio {
 namespace {
 
 constexpr int seitenrand = 18;
+constexpr int zellenrand = 4;
+
+/// Gives the tables of a page room and single lines.
+void TabellenGestalten(const QTextDocument& dokument) {
+    for (QTextFrame* rahmen : dokument.rootFrame()->childFrames()) {
+        auto* tabelle = qobject_cast<QTextTable*>(rahmen);
+        if (!tabelle) continue;
+        QTextTableFormat format = tabelle->format();
+        format.setCellPadding(zellenrand);
+        format.setCellSpacing(0);
+        format.setBorderCollapse(true);
+        tabelle->setFormat(format);
+    }
+}
 
 /// The block of the heading with an anchor; invalid where there is none.
 QTextBlock Ueberschrift(const QTextDocument& dokument, const QString& sprungziel) {
@@ -58,6 +73,7 @@ void Handbuchseite::Zeige(const QString& kapitel, const QString& sprungziel) {
 }
 
 void Handbuchseite::Springen(const QUrl& adresse) {
+    TabellenGestalten(*document());
     if (!adresse.hasFragment()) return;
     const QTextBlock block = Ueberschrift(*document(), adresse.fragment());
     if (block.isValid()) Hinrollen(QTextCursor(block));
