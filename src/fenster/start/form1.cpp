@@ -21,20 +21,27 @@
 
 namespace zinfolio {
 
-/// A calculator on the start screen: its entry in the menu, and its button with half a sentence.
+/// A calculator on the start screen: its entry in the menu, its button with half a sentence, and how its
+/// window is made; without the last it is shown, but not offered.
 struct Rechnereintrag {
     const char* name;
     const char* menuetext;
     const char* titel;
     const char* erklaerung;
     const char* symbol;
+    Rechner* (*anlegen)(const std::filesystem::path& arbeitsordner) = nullptr;
 };
 
 namespace {
 
+template <class Fenster>
+Rechner* Anlegen(const std::filesystem::path& arbeitsordner) {
+    return new Fenster(arbeitsordner);
+}
+
 constexpr std::array kontorechner{
     Rechnereintrag{"Zinsstaffelrechner", "Zinsstaffelrechner", "Zinsstaffelrechner",
-                   "Ein Konto nachrechnen, auf den Cent wie die Bank", "konto"},
+                   "Ein Konto nachrechnen, auf den Cent wie die Bank", "konto", Anlegen<Form48000>},
 };
 constexpr std::array reihenrechner{
     Rechnereintrag{"Effektivzinsrechner", "Effektivzinsrechner", "Effektivzinsrechner",
@@ -65,7 +72,6 @@ Form1::Form1(std::filesystem::path arbeitsordner) : arbeitsordner_(std::move(arb
     setWindowTitle("Zinfolio                Vers. " ZINFOLIO_VERSION);
     setWindowIcon(QIcon(":/zinfolio.svg"));
     wirkungen_ = {
-        {"Zinsstaffelrechner", [this] { ZinsstaffelrechnerOeffnen(); }},
         {"Hilfetext", [] { Hilfefenster::ZumFokus(); }},
         {"Update", [this] { ImNetz([this] { NachNeuererVersionSehen(this, Herstellerserver()); }); }},
         {"shop", [this] { ImNetz([this] { SeiteZeigen(this, Herstellerserver(), "/"); }); }},
@@ -74,10 +80,19 @@ Form1::Form1(std::filesystem::path arbeitsordner) : arbeitsordner_(std::move(arb
         {"Impr", [this] { ImpressumZeigen(this); }},
         {"Enden2", [] { QApplication::quit(); }},
     };
+    RechnerAnbieten(kontorechner);
+    RechnerAnbieten(reihenrechner);
+    RechnerAnbieten(sparrechner);
     MenueAnlegen();
     TafelAnlegen();
     resize(Anfangsgroesse(*this));
     move(0, 0);
+}
+
+void Form1::RechnerAnbieten(std::span<const Rechnereintrag> gruppe) {
+    for (const Rechnereintrag& eintrag : gruppe) {
+        if (eintrag.anlegen) wirkungen_[eintrag.name] = [this, &eintrag] { RechnerOeffnen(eintrag); };
+    }
 }
 
 QAction* Form1::Eintrag(QWidget& menue, const char* name, const QString& text) {
@@ -154,10 +169,10 @@ void Form1::Oeffnen(std::string_view name) {
     wirkungen_.at(name)();
 }
 
-void Form1::ZinsstaffelrechnerOeffnen() {
-    Geschuetzt(this, [this] {
+void Form1::RechnerOeffnen(const Rechnereintrag& eintrag) {
+    Geschuetzt(this, [&] {
         ArbeitsordnerAnlegen(arbeitsordner_);
-        auto* rechner = new Form48000(arbeitsordner_);
+        Rechner* rechner = eintrag.anlegen(arbeitsordner_);
         rechner->setAttribute(Qt::WA_DeleteOnClose);
         rechner->setWindowIcon(windowIcon());
         connect(rechner, &Rechner::verlassen, this, &Form1::RechnerVerlassen);

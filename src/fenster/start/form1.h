@@ -30,7 +30,8 @@ class Form1 : public QMainWindow {
     void Gruppe(QBoxLayout& tafel, const QString& titel, std::span<const Rechnereintrag> rechner);
     QAction* Eintrag(QWidget& menue, const char* name, const QString& text);
     void Oeffnen(std::string_view name);
-    void ZinsstaffelrechnerOeffnen();
+    void RechnerAnbieten(std::span<const Rechnereintrag> gruppe);
+    void RechnerOeffnen(const Rechnereintrag& eintrag);
     void RechnerVerlassen();
     /// Goes a way into the web; a second one waits until the first has ended.
     void ImNetz(const std::function<void()>& weg);
