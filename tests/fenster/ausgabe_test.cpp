@@ -7,8 +7,6 @@
 #include <fstream>
 
 #include "fenster/kontoformular.h"
-#include "fenster/ui/deutsch.h"
-#include "fenster/ui/entertaste.h"
 #include "fenster/ui/uhr.h"
 
 using namespace zinfolio;

@@ -9,8 +9,6 @@
 #include <QTimer>
 
 #include "fenster/formhelfer.h"
-#include "fenster/ui/deutsch.h"
-#include "fenster/ui/entertaste.h"
 
 using namespace zinfolio;
 namespace fs = std::filesystem;

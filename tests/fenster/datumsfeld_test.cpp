@@ -7,8 +7,6 @@
 #include <QVBoxLayout>
 
 #include "fenster/formhelfer.h"
-#include "fenster/ui/deutsch.h"
-#include "fenster/ui/entertaste.h"
 #include "fenster/ui/uhr.h"
 
 using namespace zinfolio;

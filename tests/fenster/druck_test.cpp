@@ -9,8 +9,6 @@
 #include "fenster/formhelfer.h"
 #include "fenster/nummernbericht.h"
 #include "fenster/pdfhelfer.h"
-#include "fenster/ui/deutsch.h"
-#include "fenster/ui/entertaste.h"
 
 using namespace zinfolio;
 namespace fs = std::filesystem;

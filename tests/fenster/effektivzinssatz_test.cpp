@@ -6,8 +6,6 @@
 #include <QPushButton>
 
 #include "fenster/kontoformular.h"
-#include "fenster/ui/deutsch.h"
-#include "fenster/ui/entertaste.h"
 #include "fenster/ui/uhr.h"
 
 using namespace zinfolio;

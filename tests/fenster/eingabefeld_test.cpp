@@ -7,8 +7,6 @@
 #include <QVBoxLayout>
 
 #include "fenster/formhelfer.h"
-#include "fenster/ui/deutsch.h"
-#include "fenster/ui/entertaste.h"
 
 using namespace zinfolio;
 

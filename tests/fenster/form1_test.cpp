@@ -9,8 +9,6 @@
 #include "fenster/formhelfer.h"
 #include "fenster/staffel/form48000.h"
 #include "fenster/start/programmstart.h"
-#include "fenster/ui/deutsch.h"
-#include "fenster/ui/entertaste.h"
 
 using namespace zinfolio;
 

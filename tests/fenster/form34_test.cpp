@@ -14,8 +14,6 @@
 #include "fenster/ausgabe/druckdialog.h"
 #include "fenster/ausgabe/schriftdialog.h"
 #include "fenster/formhelfer.h"
-#include "fenster/ui/deutsch.h"
-#include "fenster/ui/entertaste.h"
 
 using namespace zinfolio;
 

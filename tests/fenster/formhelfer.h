@@ -7,6 +7,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "fenster/fenstertest.h"
 #include "fenster/ui/dateidialog.h"
 #include "fenster/ui/meldungsfenster.h"
 
@@ -110,17 +111,3 @@ inline void Zeige(QWidget& fenster) {
 }
 
 }  // namespace zinfolio
-
-/// The main function of a window test: offscreen, with German boxes, whatever the machine offers.
-#define ZINFOLIO_FENSTERTEST(Klasse)                               \
-    int main(int argc, char** argv) {                              \
-        qputenv("QT_QPA_PLATFORM", "offscreen");                   \
-        QTemporaryDir konfiguration;                               \
-        qputenv("XDG_CONFIG_HOME", konfiguration.path().toUtf8()); \
-        QApplication programm(argc, argv);                         \
-        DeutscheTexteLaden(programm);                              \
-        Entertaste entertaste;                                     \
-        programm.installEventFilter(&entertaste);                  \
-        Klasse test;                                               \
-        return QTest::qExec(&test, argc, argv);                    \
-    }

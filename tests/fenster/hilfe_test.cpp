@@ -131,5 +131,5 @@ class HilfeTest : public QObject {
     }
 };
 
-QTEST_MAIN(HilfeTest)
+ZINFOLIO_FENSTERTEST(HilfeTest)
 #include "hilfe_test.moc"

@@ -7,7 +7,6 @@
 
 #include "fenster/formhelfer.h"
 #include "fenster/ui/deutsch.h"
-#include "fenster/ui/entertaste.h"
 #include "fenster/ui/geschuetzt.h"
 #include "kern/dates/tage30.h"
 

@@ -198,5 +198,5 @@ class NetzwegeTest : public QObject {
     }
 };
 
-QTEST_MAIN(NetzwegeTest)
+ZINFOLIO_FENSTERTEST(NetzwegeTest)
 #include "netzwege_test.moc"

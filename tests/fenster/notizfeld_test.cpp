@@ -15,8 +15,6 @@
 #include <QVBoxLayout>
 
 #include "fenster/formhelfer.h"
-#include "fenster/ui/deutsch.h"
-#include "fenster/ui/entertaste.h"
 #include "fenster/ui/richtextdokument.h"
 #include "kern/richtext/rtflesen.h"
 #include "kern/richtext/rtfschreiben.h"

@@ -9,8 +9,6 @@
 #include "fenster/formhelfer.h"
 #include "fenster/nummernbericht.h"
 #include "fenster/pdfhelfer.h"
-#include "fenster/ui/deutsch.h"
-#include "fenster/ui/entertaste.h"
 #include "kern/bericht/probebericht.h"
 #include "kern/dateien/dateifehler.h"
 

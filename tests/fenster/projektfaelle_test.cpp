@@ -14,8 +14,6 @@
 #include <unistd.h>
 
 #include "fenster/kontoformular.h"
-#include "fenster/ui/deutsch.h"
-#include "fenster/ui/entertaste.h"
 #include "fenster/ui/uhr.h"
 #include "kern/dateien/groessengrenze.h"
 #include "kern/dateien/ohnevorrechte.h"

@@ -7,8 +7,6 @@
 
 #include "fenster/ausgabe/schreibtischbefehl.h"
 #include "fenster/formhelfer.h"
-#include "fenster/ui/deutsch.h"
-#include "fenster/ui/entertaste.h"
 
 using namespace zinfolio;
 

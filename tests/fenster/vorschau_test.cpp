@@ -9,8 +9,6 @@
 #include <QWheelEvent>
 #include <stdexcept>
 
-#include "fenster/ui/deutsch.h"
-#include "fenster/ui/entertaste.h"
 #include "fenster/vorschauhelfer.h"
 
 using namespace zinfolio;

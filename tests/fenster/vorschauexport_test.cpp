@@ -10,8 +10,6 @@
 
 #include "fenster/ausgabe/druckdialog.h"
 #include "fenster/pdfhelfer.h"
-#include "fenster/ui/deutsch.h"
-#include "fenster/ui/entertaste.h"
 #include "fenster/vorschauhelfer.h"
 
 using namespace zinfolio;

@@ -9,8 +9,6 @@
 #include <QStackedWidget>
 
 #include "fenster/kontoformular.h"
-#include "fenster/ui/deutsch.h"
-#include "fenster/ui/entertaste.h"
 #include "fenster/ui/uhr.h"
 
 using namespace zinfolio;

@@ -5,8 +5,6 @@
 #include <QRadioButton>
 
 #include "fenster/kontoformular.h"
-#include "fenster/ui/deutsch.h"
-#include "fenster/ui/entertaste.h"
 #include "fenster/ui/uhr.h"
 
 using namespace zinfolio;

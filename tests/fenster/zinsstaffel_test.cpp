@@ -10,7 +10,6 @@
 
 #include "fenster/kontoformular.h"
 #include "fenster/ui/deutsch.h"
-#include "fenster/ui/entertaste.h"
 #include "fenster/ui/uhr.h"
 #include "kern/dateien/satzdatei.h"
 
