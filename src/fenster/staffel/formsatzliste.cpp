@@ -52,18 +52,10 @@ void FormSatzliste::Ersetzen(const std::vector<Staffelsatz>& saetze) {
 }
 
 void FormSatzliste::Zeigen() {
-    tabelle_->Zeige({
-        .spalten = art_.spalten,
-        .zeilen = static_cast<int>(saetze_.size()),
-        .zelle =
-            [this](int zeile, int spalte) {
-                return QString::fromStdString(art_.zelle(saetze_[static_cast<std::size_t>(zeile)], spalte));
-            },
-        .zeilentext =
-            [this](int zeile) {
-                return QString::fromStdString(art_.zeile(saetze_[static_cast<std::size_t>(zeile)]));
-            },
-    });
+    const auto saetze = std::make_shared<const std::vector<Staffelsatz>>(saetze_);
+    Tabelleninhalt inhalt = TabelleBilden(art_.spalten, saetze);
+    inhalt.zeilentext = [zeile = art_.zeile, saetze](std::size_t nummer) { return zeile((*saetze)[nummer]); };
+    tabelle_->Zeige(std::move(inhalt));
 }
 
 bool FormSatzliste::AenderungBeginnen() {

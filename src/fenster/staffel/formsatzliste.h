@@ -14,9 +14,8 @@ namespace zinfolio {
 /// What tells one list of rows from another.
 struct Satzlistenart {
     QString name;
-    std::vector<Tabellenspalte> spalten;
-    /// The text of a cell, and of a whole row for screen readers.
-    std::function<std::string(const Staffelsatz&, int spalte)> zelle;
+    std::vector<Spalte<Staffelsatz>> spalten;
+    /// A whole row as one line, for screen readers.
     std::string (*zeile)(const Staffelsatz&);
     std::string_view loeschfrage;
 };

@@ -3,7 +3,6 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
-#include <QRegularExpression>
 #include <QVBoxLayout>
 
 #include "fenster/ui/bausteine.h"
@@ -11,26 +10,6 @@
 #include "fenster/ui/tabelle.h"
 
 namespace zinfolio {
-namespace {
-
-/// The header as the grid shows it: the run of blanks, or the one before "bis", is where its second line
-/// begins.
-QString Kopftext(std::string_view kopf) {
-    static const QRegularExpression bruch("(  +| (?=bis))");
-    QString text = Anzeigetext(kopf);
-    const auto stelle = bruch.match(text);
-    if (stelle.hasMatch()) text.replace(stelle.capturedStart(), stelle.capturedLength(), "\n");
-    return text;
-}
-
-std::vector<Tabellenspalte> Tabellenspalten(std::span<const Ansichtsspalte> spalten) {
-    std::vector<Tabellenspalte> ergebnis;
-    for (const Ansichtsspalte& spalte : spalten)
-        ergebnis.push_back({Kopftext(spalte.kopf)});
-    return ergebnis;
-}
-
-}  // namespace
 
 RegisterBerechnung::RegisterBerechnung(QWidget* eltern)
     : QWidget(eltern),
@@ -151,19 +130,7 @@ void RegisterBerechnung::KurzformWaehlen() {
 }
 
 void RegisterBerechnung::AnsichtZeigen() {
-    const auto ansicht = static_cast<Kontoansicht>(Combo4_->currentIndex());
-    const auto spalten = Ansichtsspalten(ansicht);
-    zeilen_ = Ansichtszeilen(ansicht, *loesung_);
-    Grid_->Zeige({
-        .spalten = Tabellenspalten(spalten),
-        .zeilen = static_cast<int>(zeilen_.size()),
-        .zelle =
-            [this, spalten](int zeile, int spalte) {
-                const Staffelsatz& satz = (*loesung_)[zeilen_[static_cast<std::size_t>(zeile)]];
-                return QString::fromStdString(spalten[static_cast<std::size_t>(spalte)].zelle(satz));
-            },
-        .zeilentext = {},
-    });
+    Grid_->Zeige(AnsichtBilden(static_cast<Kontoansicht>(Combo4_->currentIndex()), loesung_));
 }
 
 }  // namespace zinfolio

@@ -58,7 +58,6 @@ class RegisterBerechnung : public QWidget {
 
     /// Shared with the reports made of it.
     std::shared_ptr<const std::vector<Staffelsatz>> loesung_;
-    std::vector<std::size_t> zeilen_;
     Effektivmethode effektivmethode_ = Effektivmethode::pangv2000;
     QComboBox* Combo4_;
     QLabel* Gesamtzahlungssumme_;

@@ -8,6 +8,7 @@
 #include "fenster/ui/meldungsfenster.h"
 #include "fenster/ui/tabelle.h"
 #include "kern/finmath/herleitung.h"
+#include "kern/staffel/herleitungsbericht.h"
 
 namespace zinfolio {
 
@@ -31,20 +32,10 @@ RegisterEffektivzins::RegisterEffektivzins(QWidget* eltern)
 void RegisterEffektivzins::Zeigen(Kontoeffektivzins ergebnis) {
     ergebnis_ = std::move(ergebnis);
     Effzisa_->setText(QString::fromStdString(ergebnis_.ezins) + " %");
-    std::vector<Tabellenspalte> spalten;
-    for (const std::string& kopf : Herleitungskoepfe(ergebnis_.Effektivergebnis)) {
-        spalten.push_back({QString::fromStdString(kopf)});
-    }
-    Grid1_->Zeige({
-        .spalten = std::move(spalten),
-        .zeilen = static_cast<int>(ergebnis_.Herleitung().size()),
-        .zelle =
-            [this](int zeile, int spalte) {
-                const Ergebnissatz& satz = ergebnis_.Herleitung()[static_cast<std::size_t>(zeile)];
-                return QString::fromStdString(Herleitungstext(satz, static_cast<std::size_t>(spalte)));
-            },
-        .zeilentext = {},
-    });
+    const auto zeilen = ergebnis_.Herleitung();
+    Grid1_->Zeige(HerleitungstabelleBilden(
+        std::make_shared<const std::vector<Ergebnissatz>>(zeilen.begin(), zeilen.end()),
+        ergebnis_.Effektivergebnis));
 }
 
 }  // namespace zinfolio

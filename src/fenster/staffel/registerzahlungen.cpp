@@ -36,23 +36,38 @@ constexpr Feld deltadeskriptor{"Delta", "", Tastenfilter::betrag, "", &Zahlungse
 
 constexpr int vorgeseheneBeschreibung = 25;
 
-std::string Zahlungszelle(const Staffelsatz& satz, int spalte) {
-    switch (spalte) {
-        case 0:
-            return NachUtf8(satz.Satzdatum.Getrimmt());
-        case 1:
-            return Format(satz.Zahlbetrag, betragsmuster);
-        default:
-            return NachUtf8(satz.Zahlungstext.Getrimmt());
-    }
+template <const Zahlmuster& Muster>
+std::string Betragszelle(const Staffelsatz& satz) {
+    return Format(satz.Zahlbetrag, Muster);
+}
+
+std::string Datumszelle(const Staffelsatz& satz) {
+    return NachUtf8(satz.Satzdatum.Getrimmt());
+}
+
+std::string Textzelle(const Staffelsatz& satz) {
+    return NachUtf8(satz.Zahlungstext.Getrimmt());
 }
 
 Satzlistenart Zahlungsliste() {
     return {"List1",
-            {{"Datum"}, {"Betrag €"}, {"Beschreibung", Qt::AlignLeft}},
-            Zahlungszelle,
+            {{.kopf = "Datum", .zelle = Datumszelle, .art = Zellart::datum},
+             {.kopf = "Betrag €", .zelle = Betragszelle<betragsmuster>},
+             {.kopf = "Beschreibung",
+              .zelle = Textzelle,
+              .art = Zellart::text,
+              .ausrichtung = Zellausrichtung::links}},
             Zahlungszeile,
             meldung::zahlungenLoeschen};
+}
+
+/// A numbered table of a series.
+Tabelleninhalt Vorschautabelle(const std::vector<Staffelsatz>& zahlungen) {
+    std::vector<std::vector<std::string>> zeilen;
+    for (const Staffelsatz& satz : zahlungen)
+        zeilen.push_back(
+            {std::to_string(zeilen.size() + 1), Datumszelle(satz), Betragszelle<vorschaumuster>(satz)});
+    return TexttabelleBilden({{"Nr."}, {"Datum"}, {"Betrag"}}, std::move(zeilen));
 }
 
 Eingabefeld* FeldOhneZeile(const Feld& d, QWidget* eltern, Feldgruppe<Zahlungseingabe>& gruppe) {
@@ -239,18 +254,7 @@ void RegisterZahlungen::VorschauZeigen(const Zahlungseingabe& eingabe) {
     vorgesehen_ = eingabe;
     vorschau_.clear();
     ZahlungenErzeugen(eingabe, vorschau_);
-    Grid2_->Zeige({
-        .spalten = {{"Nr."}, {"Datum"}, {"Betrag"}},
-        .zeilen = static_cast<int>(vorschau_.size()),
-        .zelle =
-            [this](int zeile, int spalte) {
-                const Staffelsatz& satz = vorschau_[static_cast<std::size_t>(zeile)];
-                if (spalte == 0) return QString::number(zeile + 1);
-                return QString::fromStdString(spalte == 1 ? NachUtf8(satz.Satzdatum.Getrimmt())
-                                                          : Format(satz.Zahlbetrag, vorschaumuster));
-            },
-        .zeilentext = {},
-    });
+    Grid2_->Zeige(Vorschautabelle(vorschau_));
     Label10_->setText("Vorschau der Zahlungsreihe: übernehmen oder verwerfen.");
     rechts_->setCurrentIndex(1);
     findChild<QPushButton*>("Command3")->setFocus();

@@ -35,39 +35,37 @@ constexpr std::array felddeskriptoren{
          &Konditionseingabe::Kreditlinie},
 };
 
-std::string Konditionszelle(const Staffelsatz& satz, int spalte) {
-    const Konditionen& k = satz.kondition;
-    switch (spalte) {
-        case 0:
-            return NachUtf8(satz.Satzdatum.Getrimmt());
-        case 1:
-            return Format(k.Gutzins1, konditionsmuster);
-        case 2:
-            return Format(k.Gutzins2, konditionsmuster);
-        case 3:
-            return Format(k.Guthabenlinie, betragsmuster);
-        case 4:
-            return Format(k.Kreditzins1, konditionsmuster);
-        case 5:
-            return Format(k.Kreditzins2, konditionsmuster);
-        case 6:
-            return Format(k.Kreditlinie, betragsmuster);
-        default:
-            return k.Zweitzinsart == 1 ? "Gesamtbetrag" : "Betrag über Limit";
-    }
+template <auto Feld>
+std::string Satzzelle(const Staffelsatz& satz) {
+    return Format(satz.kondition.*Feld, konditionsmuster);
+}
+
+template <auto Feld>
+std::string Betragszelle(const Staffelsatz& satz) {
+    return Format(satz.kondition.*Feld, betragsmuster);
+}
+
+std::string Datumszelle(const Staffelsatz& satz) {
+    return NachUtf8(satz.Satzdatum.Getrimmt());
+}
+
+std::string Geltungszelle(const Staffelsatz& satz) {
+    return satz.kondition.Zweitzinsart == 1 ? "Gesamtbetrag" : "Betrag über Limit";
 }
 
 Satzlistenart Konditionsliste() {
     return {"List2",
-            {{"Gültig ab"},
-             {"1. Guthaben-\nzins %"},
-             {"2. Guthaben-\nzins %"},
-             {"ab Guthaben-\nsaldo €"},
-             {"1. Kredit-\nzins %"},
-             {"2. Kredit-\nzins %"},
-             {"ab Kredit-\nsaldo €"},
-             {"2. Zinssatz für", Qt::AlignLeft}},
-            Konditionszelle,
+            {{.kopf = "Gültig ab", .zelle = Datumszelle, .art = Zellart::datum},
+             {.kopf = "1. Guthaben-\nzins %", .zelle = Satzzelle<&Konditionen::Gutzins1>},
+             {.kopf = "2. Guthaben-\nzins %", .zelle = Satzzelle<&Konditionen::Gutzins2>},
+             {.kopf = "ab Guthaben-\nsaldo €", .zelle = Betragszelle<&Konditionen::Guthabenlinie>},
+             {.kopf = "1. Kredit-\nzins %", .zelle = Satzzelle<&Konditionen::Kreditzins1>},
+             {.kopf = "2. Kredit-\nzins %", .zelle = Satzzelle<&Konditionen::Kreditzins2>},
+             {.kopf = "ab Kredit-\nsaldo €", .zelle = Betragszelle<&Konditionen::Kreditlinie>},
+             {.kopf = "2. Zinssatz für",
+              .zelle = Geltungszelle,
+              .art = Zellart::text,
+              .ausrichtung = Zellausrichtung::links}},
             Konditionszeile,
             meldung::konditionenLoeschen};
 }

@@ -1,27 +1,10 @@
 #pragma once
 
 #include <QAbstractTableModel>
-#include <QString>
-#include <functional>
-#include <vector>
+
+#include "kern/bericht/tabelle.h"
 
 namespace zinfolio {
-
-/// A column of a table: its header and how its cells are aligned.
-struct Tabellenspalte {
-    QString kopf;
-    Qt::Alignment ausrichtung = Qt::AlignRight;
-};
-
-/// What a table shows. Cells are asked for when they become visible, so that thirty thousand rows cost
-/// nothing.
-struct Tabelleninhalt {
-    std::vector<Tabellenspalte> spalten;
-    int zeilen = 0;
-    std::function<QString(int zeile, int spalte)> zelle;
-    /// The whole row as one line, for screen readers; may be empty.
-    std::function<QString(int zeile)> zeilentext;
-};
 
 /// A read-only table over a `Tabelleninhalt`.
 class Tabellenmodell : public QAbstractTableModel {
@@ -40,6 +23,8 @@ class Tabellenmodell : public QAbstractTableModel {
                                       int rolle = Qt::DisplayRole) const override;
 
   private:
+    [[nodiscard]] QVariant Zellwert(std::size_t zeile, std::size_t spalte, int rolle) const;
+
     Tabelleninhalt inhalt_;
 };
 

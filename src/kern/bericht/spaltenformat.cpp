@@ -36,18 +36,11 @@ int BreiteLesen(std::string_view spalte) {
 
 }  // namespace
 
-std::vector<Berichtsspalte> SpaltenformatLesen(std::string_view format, std::string_view koepfe) {
-    const auto formate = AnStrichenTeilen(format);
-    const auto texte = AnStrichenTeilen(koepfe);
-    if (formate.size() != texte.size()) {
-        throw std::invalid_argument("Ein Bericht mit ungleich vielen Spalten und Köpfen: " +
-                                    std::string(koepfe));
-    }
+std::vector<Berichtsspalte> SpaltenformatLesen(std::string_view format) {
     std::vector<Berichtsspalte> spalten;
-    spalten.reserve(formate.size());
-    for (std::size_t i = 0; i < formate.size(); ++i) {
-        spalten.push_back({std::string(texte[i]), BreiteLesen(formate[i]), AusrichtungLesen(formate[i])});
-    }
+    for (const std::string_view spalte : AnStrichenTeilen(format))
+        spalten.push_back(
+            {.kopf = {}, .breite = BreiteLesen(spalte), .kopfausrichtung = AusrichtungLesen(spalte)});
     return spalten;
 }
 

@@ -47,15 +47,6 @@ std::string Herleitungstext(const Ergebnissatz& satz, std::size_t spalte) {
     return {text.data(), zellen[spalte](satz, text.data())};
 }
 
-std::array<std::string, 6> Herleitungskoepfe(std::string_view effektivergebnis) {
-    return {"Datum",
-            "Betrag",
-            "Faktor " + std::string(Getrimmt(effektivergebnis)) + " %",
-            "Vermögensendwert",
-            "kumulierter Vermögensendwert",
-            "kumulierte Zahlungen"};
-}
-
 double Herleitungszinssatz(std::string_view effektivergebnis) {
     return Zahlwert(effektivergebnis);
 }

@@ -27,9 +27,6 @@ using Herleitungszelle = char* (*)(const Ergebnissatz& satz, char* ziel);
 /// One of these cells as a text of its own.
 [[nodiscard]] std::string Herleitungstext(const Ergebnissatz& satz, std::size_t spalte);
 
-/// The headers of these columns; the third names the rate, the text as it stands: "Faktor ,50000 %".
-[[nodiscard]] std::array<std::string, 6> Herleitungskoepfe(std::string_view effektivergebnis);
-
 /// The number that the table is built with: that of the rate's text, 0 where it is empty.
 [[nodiscard]] double Herleitungszinssatz(std::string_view effektivergebnis);
 

@@ -2,9 +2,10 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
-#include "kern/bericht/bericht.h"
+#include "kern/bericht/tabelle.h"
 #include "kern/finmath/effektivmethode.h"
 #include "kern/finmath/reihensatz.h"
 
@@ -20,6 +21,11 @@ struct Herleitungsberichtsdaten {
     /// The rows of the derivation; none: the table is empty.
     std::shared_ptr<const std::vector<Ergebnissatz>> zeilen;
 };
+
+/// The derivation as a table, which keeps its rows alive: the third header names the rate, the text as it
+/// stands, but not in reports. No rows: a table without any.
+[[nodiscard]] Tabelleninhalt HerleitungstabelleBilden(std::shared_ptr<const std::vector<Ergebnissatz>> zeilen,
+                                                      std::string_view effektivergebnis);
 
 /// The derivation as a report: it has no head page, and a line above the table on every page that names
 /// method, rate and project. It keeps the rows alive.

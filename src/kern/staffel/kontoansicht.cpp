@@ -1,5 +1,8 @@
 #include "kern/staffel/kontoansicht.h"
 
+#include <string>
+#include <utility>
+
 #include "kern/dates/textteile.h"
 #include "kern/dates/zahl.h"
 #include "kern/dates/zahlformat.h"
@@ -12,17 +15,13 @@ std::string Datumszelle(const Staffelsatz& satz) {
     return NachUtf8(satz.Satzdatum.Getrimmt());
 }
 
+template <Zahlungsvorgang Art>
 std::string Vorgang(const Staffelsatz& satz) {
-    switch (satz.Zahlungsart) {
-        case zahlungsart::kondition:
-            return "Konditionenänderung";
-        case zahlungsart::zinstermin:
-            return "Zinstermin";
-        default:
-            break;
-    }
-    const std::string text = NachUtf8(Getrimmt(satz.Zahlungstext.Getrimmt()));
-    return text.empty() ? "Zahlung" : text;
+    if (satz.Zahlungsart == zahlungsart::kondition) return "Konditionenänderung";
+    if (satz.Zahlungsart == zahlungsart::zinstermin) return "Zinstermin";
+    if constexpr (Art == Zahlungsvorgang::zahlung) return "Zahlung";
+    std::string text = NachUtf8(Getrimmt(satz.Zahlungstext.Getrimmt()));
+    return text.empty() && Art == Zahlungsvorgang::textOderZahlung ? "Zahlung" : text;
 }
 
 std::string Zinsbasiszelle(const Staffelsatz& satz) {
@@ -36,74 +35,99 @@ std::string Zinsbasiszelle(const Staffelsatz& satz) {
     }
 }
 
-template <double Staffelsatz::*Feld>
-std::string Betrag(const Staffelsatz& satz) {
-    return Format(satz.*Feld, betragsmuster);
+template <auto Feld>
+double Zahlenwert(const Staffelsatz& satz) {
+    return satz.*Feld;
 }
 
 template <auto Feld>
-std::string Zahlzelle(const Staffelsatz& satz) {
-    return Zahltext(satz.*Feld);
+double Konditionswert(const Staffelsatz& satz) {
+    return satz.kondition.*Feld;
 }
 
 template <auto Feld>
-std::string Konditionszelle(const Staffelsatz& satz) {
-    return Zahltext(satz.kondition.*Feld);
+constexpr Kontospalte Betragsspalte(std::string_view kopf, std::string_view berichtskopf = {}) {
+    return {.kopf = kopf,
+            .zelle = [](const Staffelsatz& satz) { return Format(satz.*Feld, betragsmuster); },
+            .zahl = Zahlenwert<Feld>,
+            .berichtskopf = berichtskopf};
 }
 
-std::string Zinstagezelle(const Staffelsatz& satz) {
-    return std::to_string(satz.Zinstage);
+/// The plain text of the number.
+template <auto Feld>
+constexpr Kontospalte Zahlspalte(std::string_view kopf, std::string_view berichtskopf = {}) {
+    return {.kopf = kopf,
+            .zelle = [](const Staffelsatz& satz) { return Zahltext(satz.*Feld); },
+            .zahl = Zahlenwert<Feld>,
+            .berichtskopf = berichtskopf};
 }
+
+constexpr Kontospalte tagespalte{
+    .kopf = "Tage bis (t+1)",
+    .zelle = [](const Staffelsatz& satz) { return std::to_string(satz.Zinstage); },
+    .zahl = Zahlenwert<&Staffelsatz::Zinstage>};
+
+template <auto Feld>
+constexpr Kontospalte Konditionsspalte(std::string_view kopf, std::string_view berichtskopf) {
+    return {.kopf = kopf,
+            .zelle = [](const Staffelsatz& satz) { return Zahltext(satz.kondition.*Feld); },
+            .zahl = Konditionswert<Feld>,
+            .berichtskopf = berichtskopf};
+}
+
+constexpr Kontospalte datumsspalte{.kopf = "Datum", .zelle = Datumszelle, .art = Zellart::datum};
+
+Kontospalte Vorgangsspalte(Zahlungsvorgang art) {
+    constexpr std::array zellen{Vorgang<Zahlungsvorgang::textOderZahlung>, Vorgang<Zahlungsvorgang::text>,
+                                Vorgang<Zahlungsvorgang::zahlung>};
+    return {.kopf = "Vorgang", .zelle = zellen.at(static_cast<std::size_t>(art)), .art = Zellart::text};
+}
+
+// What follows date and "Vorgang" in each view.
 
 constexpr std::array kurzform{
-    Ansichtsspalte{"Datum", Datumszelle},
-    Ansichtsspalte{"Vorgang", Vorgang},
-    Ansichtsspalte{"Zahlungsbetrag", Betrag<&Staffelsatz::Zahlbetrag>},
-    Ansichtsspalte{"Zinsen", Betrag<&Staffelsatz::Zinsgutschrift>},
-    Ansichtsspalte{"Kontostand", Betrag<&Staffelsatz::Kontostand>},
+    Betragsspalte<&Staffelsatz::Zahlbetrag>("Zahlungsbetrag"),
+    Betragsspalte<&Staffelsatz::Zinsgutschrift>("Zinsen"),
+    Betragsspalte<&Staffelsatz::Kontostand>("Kontostand"),
 };
 
 constexpr std::array detailansicht1{
-    Ansichtsspalte{"Datum", Datumszelle},
-    Ansichtsspalte{"Vorgang", Vorgang},
-    Ansichtsspalte{"Betrag (t)", Betrag<&Staffelsatz::Zahlbetrag>},
-    Ansichtsspalte{"Zinsen bis (t+1)", Betrag<&Staffelsatz::Periodenzins>},
-    Ansichtsspalte{"kumulierte Zinsen bis (t+1)", Betrag<&Staffelsatz::Kumulzins>},
-    Ansichtsspalte{"Kontostand (t)", Betrag<&Staffelsatz::Kontostand>},
+    Betragsspalte<&Staffelsatz::Zahlbetrag>("Betrag (t)"),
+    Betragsspalte<&Staffelsatz::Periodenzins>("Zinsen bis (t+1)"),
+    Betragsspalte<&Staffelsatz::Kumulzins>("kumulierte Zinsen bis (t+1)"),
+    Betragsspalte<&Staffelsatz::Kontostand>("Kontostand (t)", "Kontostand"),
 };
 
 constexpr std::array detailansicht2{
-    Ansichtsspalte{"Datum", Datumszelle},
-    Ansichtsspalte{"Vorgang", Vorgang},
-    Ansichtsspalte{"Betrag (t)", Betrag<&Staffelsatz::Zahlbetrag>},
-    Ansichtsspalte{"Tage bis (t+1)", Zinstagezelle},
-    Ansichtsspalte{"Zinsen bis (t+1)", Betrag<&Staffelsatz::Periodenzins>},
-    Ansichtsspalte{"Zinsgutschrift (t)", Zahlzelle<&Staffelsatz::Zinsgutschrift>},
-    Ansichtsspalte{"kumulierte Zinsen bis (t+1)", Betrag<&Staffelsatz::Kumulzins>},
-    Ansichtsspalte{"Kontostand (t)", Betrag<&Staffelsatz::Kontostand>},
+    Betragsspalte<&Staffelsatz::Zahlbetrag>("Betrag (t)"),
+    tagespalte,
+    Betragsspalte<&Staffelsatz::Periodenzins>("Zinsen bis (t+1)"),
+    Zahlspalte<&Staffelsatz::Zinsgutschrift>("Zinsgutschrift (t)", "Zinsgutschrift t"),
+    Betragsspalte<&Staffelsatz::Kumulzins>("kumulierte Zinsen bis (t+1)"),
+    Betragsspalte<&Staffelsatz::Kontostand>("Kontostand (t)", "Kontostand"),
 };
 
 constexpr std::array detailansicht3{
-    Ansichtsspalte{"Datum", Datumszelle},
-    Ansichtsspalte{"Vorgang", Vorgang},
-    Ansichtsspalte{"Guthabenzins 1           bis(t+1)  %", Konditionszelle<&Konditionen::Gutzins1>},
-    Ansichtsspalte{"Guthabenzins 2           bis(t+1)  %", Konditionszelle<&Konditionen::Gutzins2>},
-    Ansichtsspalte{"Guthabenlinie            bis(t+1)", Konditionszelle<&Konditionen::Guthabenlinie>},
-    Ansichtsspalte{"Kreditzins 1             bis (t+1) %", Konditionszelle<&Konditionen::Kreditzins1>},
-    Ansichtsspalte{"Kreditzins 2             bis (t+1) %", Konditionszelle<&Konditionen::Kreditzins2>},
-    Ansichtsspalte{"Kreditlinie bis(t+1)", Konditionszelle<&Konditionen::Kreditlinie>},
-    Ansichtsspalte{"Basis für Zinssatz 2", Zinsbasiszelle},
-    Ansichtsspalte{"Betrag (t)", Betrag<&Staffelsatz::Zahlbetrag>},
-    Ansichtsspalte{"Tage bis (t+1)", Zinstagezelle},
-    Ansichtsspalte{"Zinsen bis (t+1)", Betrag<&Staffelsatz::Periodenzins>},
-    Ansichtsspalte{"Zinsgutschrift (t)", Zahlzelle<&Staffelsatz::Zinsgutschrift>},
-    Ansichtsspalte{"kumulierte Zinsen bis (t+1)", Betrag<&Staffelsatz::Kumulzins>},
-    Ansichtsspalte{"Kontostand (t)", Betrag<&Staffelsatz::Kontostand>},
+    Konditionsspalte<&Konditionen::Gutzins1>("Guthabenzins 1           bis(t+1)  %", "Zins1(+) bis (t+1)"),
+    Konditionsspalte<&Konditionen::Gutzins2>("Guthabenzins 2           bis(t+1)  %", "Zins2(+) bis (t+1)"),
+    Konditionsspalte<&Konditionen::Guthabenlinie>("Guthabenlinie            bis(t+1)",
+                                                  "Guthabenlinie bis (t+1)"),
+    Konditionsspalte<&Konditionen::Kreditzins1>("Kreditzins 1             bis (t+1) %", "Zins1(-) bis (t+1)"),
+    Konditionsspalte<&Konditionen::Kreditzins2>("Kreditzins 2             bis (t+1) %", "Zins2(-) bis (t+1)"),
+    Konditionsspalte<&Konditionen::Kreditlinie>("Kreditlinie bis(t+1)", "Kreditlinie bis (t+1)"),
+    Kontospalte{.kopf = "Basis für Zinssatz 2",
+                .zelle = Zinsbasiszelle,
+                .art = Zellart::text,
+                .berichtskopf = "Basis für Zinssatz2"},
+    Betragsspalte<&Staffelsatz::Zahlbetrag>("Betrag (t)"),
+    tagespalte,
+    Betragsspalte<&Staffelsatz::Periodenzins>("Zinsen bis (t+1)"),
+    Zahlspalte<&Staffelsatz::Zinsgutschrift>("Zinsgutschrift (t)"),
+    Betragsspalte<&Staffelsatz::Kumulzins>("kumulierte Zinsen bis (t+1)"),
+    Betragsspalte<&Staffelsatz::Kontostand>("Kontostand (t)"),
 };
 
-}  // namespace
-
-std::span<const Ansichtsspalte> Ansichtsspalten(Kontoansicht ansicht) {
+std::span<const Kontospalte> EigeneSpalten(Kontoansicht ansicht) {
     switch (ansicht) {
         case Kontoansicht::detailansicht1:
             return detailansicht1;
@@ -117,21 +141,41 @@ std::span<const Ansichtsspalte> Ansichtsspalten(Kontoansicht ansicht) {
     return kurzform;
 }
 
-std::vector<std::size_t> Ansichtszeilen(Kontoansicht ansicht, std::span<const Staffelsatz> loesung) {
+bool InKurzform(const Staffelsatz& satz, const Ansichtsregel& regel) {
+    return regel.konditionenInKurzform || satz.Zahlungsart != zahlungsart::kondition;
+}
+
+}  // namespace
+
+std::vector<Kontospalte> Ansichtsspalten(Kontoansicht ansicht, const Ansichtsregel& regel) {
+    std::vector<Kontospalte> spalten{datumsspalte, Vorgangsspalte(regel.vorgang)};
+    const auto eigene = EigeneSpalten(ansicht);
+    spalten.insert(spalten.end(), eigene.begin(), eigene.end());
+    return spalten;
+}
+
+std::vector<std::size_t> Ansichtszeilen(Kontoansicht ansicht, std::span<const Staffelsatz> loesung,
+                                        const Ansichtsregel& regel) {
     std::vector<std::size_t> zeilen;
     zeilen.reserve(loesung.size());
     for (std::size_t i = 0; i < loesung.size(); ++i) {
-        const bool kondition = loesung[i].Zahlungsart == zahlungsart::kondition;
-        if (ansicht != Kontoansicht::kurzform || !kondition) zeilen.push_back(i);
+        if (ansicht != Kontoansicht::kurzform || InKurzform(loesung[i], regel)) zeilen.push_back(i);
     }
     return zeilen;
 }
 
-Kontosummen KontosummenBilden(std::span<const Staffelsatz> loesung) {
+Tabelleninhalt AnsichtBilden(Kontoansicht ansicht, std::shared_ptr<const std::vector<Staffelsatz>> loesung,
+                             const Ansichtsregel& regel) {
+    if (!loesung) loesung = std::make_shared<const std::vector<Staffelsatz>>();
+    std::vector<std::size_t> zeilen = Ansichtszeilen(ansicht, *loesung, regel);
+    return TabelleBilden(Ansichtsspalten(ansicht, regel), std::move(loesung), std::move(zeilen));
+}
+
+Kontosummen KontosummenBilden(std::span<const Staffelsatz> loesung, const Ansichtsregel& regel) {
     double zahlungen = 0;
     double endvermoegen = 0;
     for (const Staffelsatz& satz : loesung) {
-        if (satz.Zahlungsart == zahlungsart::kondition) continue;
+        if (!InKurzform(satz, regel)) continue;
         zahlungen += satz.Zahlbetrag;
         endvermoegen = satz.Kontostand;
     }

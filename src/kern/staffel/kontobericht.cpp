@@ -3,9 +3,7 @@
 #include <array>
 #include <span>
 #include <string_view>
-#include <utility>
 
-#include "kern/bericht/spaltenformat.h"
 #include "kern/bericht/zeilenformat.h"
 #include "kern/dates/zahlformat.h"
 #include "kern/grund/windows1252.h"
@@ -25,27 +23,13 @@ constexpr std::string_view konditionsueberschrift =
 constexpr int datumsspalte = 10;
 constexpr std::array satzspalten{38 - datumsspalte, 60 - 38, 81 - 60, 102 - 81};
 
-struct Ansichtsformat {
-    std::string_view format;
-    std::string_view koepfe;
-    double punkte;
-    int zoom;
-};
-
 /// By the number of the view.
 constexpr std::array<Ansichtsformat, 4> ansichtsformate{{
-    {"^+1.0in|^2.0in|^1.6in|^1.6in|^1.6in", "Datum|Vorgang|Zahlungsbetrag|Zinsen|Kontostand", 10, 75},
-    {"^+1.0in|^2.0in|^1.6in|^1.6in|^1.6in|^1.6in",
-     "Datum|Vorgang|Betrag (t)|Zinsen bis (t+1)|kumulierte Zinsen bis (t+1)|Kontostand", 10, 65},
-    {"^+1.0in|^2.0in|^1.3in|^1.3in|^1.3in|^1.3in|^1.3in|^1.3in",
-     "Datum|Vorgang|Betrag (t)|Tage bis (t+1)|Zinsen bis (t+1)|Zinsgutschrift t|kumulierte Zinsen bis (t+1)|"
-     "Kontostand",
-     10, 65},
+    {"^+1.0in|^2.0in|^1.6in|^1.6in|^1.6in", 10, 75},
+    {"^+1.0in|^2.0in|^1.6in|^1.6in|^1.6in|^1.6in", 10, 65},
+    {"^+1.0in|^2.0in|^1.3in|^1.3in|^1.3in|^1.3in|^1.3in|^1.3in", 10, 65},
     {"^+0.6in|^1.1in|^0.5in|^0.5in|^0.8in|^0.5in|^0.5in|^0.8in|^0.9in|^0.8in|^0.6in|^0.8in|^0.8in|^0.8in|"
      "^1.1in",
-     "Datum|Vorgang|Zins1(+) bis (t+1)|Zins2(+) bis (t+1)|Guthabenlinie bis (t+1)|Zins1(-) bis (t+1)|"
-     "Zins2(-) bis (t+1)|Kreditlinie bis (t+1)|Basis für Zinssatz2|Betrag (t)|Tage bis (t+1)|"
-     "Zinsen bis (t+1)|Zinsgutschrift (t)|kumulierte Zinsen bis (t+1)|Kontostand (t)",
      7, 65},
 }};
 
@@ -84,25 +68,11 @@ void KonditionenAnfuegen(std::vector<std::string>& kopfblock, const std::vector<
     }
 }
 
-Berichtstabelle Ansichtstabelle(Kontoansicht ansicht,
-                                std::shared_ptr<const std::vector<Staffelsatz>> loesung) {
-    if (!loesung) loesung = std::make_shared<const std::vector<Staffelsatz>>();
-    const Ansichtsformat& format = ansichtsformate.at(static_cast<std::size_t>(ansicht));
-    std::vector<std::size_t> zeilen = Ansichtszeilen(ansicht, *loesung);
-    const std::size_t anzahl = zeilen.size();
-    return {
-        .spalten = SpaltenformatLesen(format.format, format.koepfe),
-        .kopfschrift = {.name = "Arial", .punkte = format.punkte, .fett = true},
-        .schrift = {.name = "Arial", .punkte = format.punkte},
-        .zeilen = anzahl,
-        .zelle = [spalten = Ansichtsspalten(ansicht), zeilen = std::move(zeilen),
-                  saetze = std::move(loesung)](
-                     std::size_t zeile,
-                     std::size_t spalte) { return spalten[spalte].zelle((*saetze)[zeilen[zeile]]); },
-    };
-}
-
 }  // namespace
+
+Ansichtsformat AnsichtsformatVon(Kontoansicht ansicht) {
+    return ansichtsformate.at(static_cast<std::size_t>(ansicht));
+}
 
 std::vector<std::string> Kontokopfblock(const Kontoberichtsdaten& daten) {
     const Kontoeinstellungen& einstellungen = daten.einstellungen;
@@ -132,8 +102,10 @@ Bericht KontoberichtBilden(const Kontoberichtsdaten& daten) {
     Bericht bericht;
     bericht.titel = daten.projekt.empty() ? "Zinsstaffel" : "Zinsstaffel " + daten.projekt;
     bericht.kopfblock = Kontokopfblock(daten);
-    bericht.tabelle = Ansichtstabelle(daten.ansicht, daten.loesung);
-    bericht.zoom = ansichtsformate.at(static_cast<std::size_t>(daten.ansicht)).zoom;
+    const Ansichtsformat format = AnsichtsformatVon(daten.ansicht);
+    bericht.tabelle =
+        BerichtstabelleBilden(AnsichtBilden(daten.ansicht, daten.loesung), format.spalten, format.punkte);
+    bericht.zoom = format.zoom;
     return bericht;
 }
 

@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "kern/bericht/bericht.h"
@@ -27,6 +28,16 @@ struct Kontoberichtsdaten {
     std::shared_ptr<const std::vector<Staffelsatz>> loesung;
     Kontoansicht ansicht = Kontoansicht::kurzform;
 };
+
+/// How a report shows a view: the columns by `SpaltenformatLesen`, the size of the font in points, and what
+/// the preview starts with, in percent.
+struct Ansichtsformat {
+    std::string_view spalten;
+    double punkte;
+    int zoom;
+};
+
+[[nodiscard]] Ansichtsformat AnsichtsformatVon(Kontoansicht ansicht);
 
 /// The lines of the head page. They are at most 400: where the conditions fill line 399 (counted from 1) and
 /// there are more of them, line 400 says so.

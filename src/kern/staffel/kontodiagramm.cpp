@@ -9,8 +9,9 @@ namespace zinfolio {
 namespace {
 
 /// The column of "Kurzform" with that header.
-const Ansichtsspalte& Spalte(std::string_view kopf) {
-    return *std::ranges::find(Ansichtsspalten(Kontoansicht::kurzform), kopf, &Ansichtsspalte::kopf);
+Kontospalte Kurzformspalte(std::string_view kopf) {
+    const std::vector<Kontospalte> spalten = Ansichtsspalten(Kontoansicht::kurzform);
+    return *std::ranges::find(spalten, kopf, &Kontospalte::kopf);
 }
 
 }  // namespace
@@ -19,9 +20,9 @@ std::variant<Diagramm, Ablehnung> Kontodiagramm(std::span<const Staffelsatz> loe
                                                 std::span<const std::size_t> zeilen,
                                                 const Kontodiagrammtexte& texte) {
     if (zeilen.size() < 2) return Ablehnung{std::string(diagrammBrauchtZweiZeilen), "", ""};
-    const Ansichtsspalte& datum = Spalte("Datum");
-    const Ansichtsspalte& betrag = Spalte("Zahlungsbetrag");
-    const Ansichtsspalte& kontostand = Spalte("Kontostand");
+    const Kontospalte datum = Kurzformspalte("Datum");
+    const Kontospalte betrag = Kurzformspalte("Zahlungsbetrag");
+    const Kontospalte kontostand = Kurzformspalte("Kontostand");
     const auto einheit = EinheitWaehlen(Zahl(kontostand.zelle(loesung[zeilen.back()])), texte.einheiten);
     Diagramm diagramm{.achsentitel = std::string(einheit.titel), .teiler = einheit.teiler};
     Diagrammreihe staende{.name = std::string(texte.kontostand)};

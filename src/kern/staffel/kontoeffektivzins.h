@@ -10,7 +10,7 @@
 namespace zinfolio {
 
 /// The effective rate of a calculated account, and what its working files hold afterwards.
-/// `Herleitungskoepfe` and `Herleitungszellen` make the table of it.
+/// `HerleitungstabelleBilden` makes the table of it.
 struct Kontoeffektivzins {
     std::vector<Reihensatz> Lösungszahlungsreihe;
     /// The rate's text; empty where there is no rate.

@@ -13,13 +13,13 @@
 #include "kern/staffel/kontobericht.h"
 #include "kern/staffel/kontoprojekt.h"
 #include "stapel/auftraege/ergebnisse.h"
-#include "stapel/befehle/ansichtstabelle.h"
 #include "stapel/befehle/aufruffehler.h"
 #include "stapel/befehle/ausgangsstatus.h"
 #include "stapel/befehle/befehle.h"
 #include "stapel/befehle/kanal.h"
 #include "stapel/befehle/kontocsv.h"
 #include "stapel/befehle/pdfmodul.h"
+#include "stapel/befehle/tabellentext.h"
 #include "stapel/json/jsonschreiber.h"
 
 namespace zinfolio {
@@ -108,18 +108,24 @@ std::string AlsJson(const Staffelergebnis& ergebnis, const std::optional<Ablehnu
     return JsonEingezogen(json) + "\n";
 }
 
-std::string AlsAusgabe(const Staffelergebnis& ergebnis, const Staffelaufruf& aufruf) {
-    const std::vector<Staffelsatz>& loesung = ergebnis.konto.loesung;
+/// The calculated rows, which share the whole result.
+std::shared_ptr<const std::vector<Staffelsatz>> Loesung(
+    const std::shared_ptr<const Staffelergebnis>& ergebnis) {
+    return {ergebnis, &ergebnis->konto.loesung};
+}
+
+std::string AlsAusgabe(const std::shared_ptr<const Staffelergebnis>& ergebnis, const Staffelaufruf& aufruf) {
+    const auto ansicht = [&] { return AnsichtBilden(aufruf.ansicht, Loesung(ergebnis)); };
     switch (aufruf.format.value()) {
         case Ausgabeformat::json:
-            return AlsJson(ergebnis, std::nullopt);
+            return AlsJson(*ergebnis, std::nullopt);
         case Ausgabeformat::csv:
-            return AnsichtAlsCsv(aufruf.ansicht, loesung);
+            return TabelleAlsCsv(ansicht());
         case Ausgabeformat::text:
             break;
     }
-    std::string text = AnsichtAlsText(aufruf.ansicht, loesung);
-    if (ergebnis.effektivzins) text += Effektivzeilen(*ergebnis.effektivzins, *aufruf.effektivmethode);
+    std::string text = TabelleAlsText(ansicht());
+    if (ergebnis->effektivzins) text += Effektivzeilen(*ergebnis->effektivzins, *aufruf.effektivmethode);
     return text;
 }
 
@@ -133,8 +139,7 @@ Bericht BerichtBilden(const std::shared_ptr<const Staffelergebnis>& ergebnis, co
         daten.effektivmethode = Effektivmethodentext(*aufruf.effektivmethode);
     }
     daten.konditionen = konto.konditionen;
-    // Shares the whole result, of which the rows are a part.
-    daten.loesung = {ergebnis, &konto.loesung};
+    daten.loesung = Loesung(ergebnis);
     daten.ansicht = aufruf.ansicht;
     return KontoberichtBilden(daten);
 }
@@ -175,7 +180,7 @@ int BefehlStaffel(const Staffelaufruf& aufruf) {
     const auto ablehnung = MitFalle([&] {
         auto abgelehnt = StaffelRechnen(*ergebnis, aufruf.effektivmethode);
         if (abgelehnt) return abgelehnt;
-        if (aufruf.format) ausgabe = AlsAusgabe(*ergebnis, aufruf);
+        if (aufruf.format) ausgabe = AlsAusgabe(ergebnis, aufruf);
         if (BerichtVerlangt(aufruf)) bericht = BerichtBilden(ergebnis, aufruf);
         return abgelehnt;
     });

@@ -20,15 +20,6 @@ std::vector<std::string> Zellen(const Ergebnissatz& satz) {
     return texte;
 }
 
-TEST(Herleitungskoepfe, NennenDenZinssatzWieErDasteht) {
-    EXPECT_THAT(Herleitungskoepfe("5,00000"),
-                ElementsAre("Datum", "Betrag", "Faktor 5,00000 %", "Vermögensendwert",
-                            "kumulierter Vermögensendwert", "kumulierte Zahlungen"));
-    EXPECT_EQ(Herleitungskoepfe(",50000")[2], "Faktor ,50000 %");
-    EXPECT_EQ(Herleitungskoepfe(" 5,00000 ")[2], "Faktor 5,00000 %");
-    EXPECT_EQ(Herleitungskoepfe("")[2], "Faktor  %");
-}
-
 TEST(Herleitungszellen, BetraegeMitZweiStellenUndDerFaktorOhneMuster) {
     const Ergebnissatz satz{
         Festtext<10>::AusWindows1252("01.03.2008"), -12345.678, 1.1F, 0, -0.004, 1234567.5};

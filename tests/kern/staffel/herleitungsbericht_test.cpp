@@ -24,6 +24,24 @@ Herleitungsberichtsdaten Beispieldaten() {
     };
 }
 
+TEST(Herleitungstabelle, NenntDenZinssatzWieErDasteht) {
+    const auto koepfe = [](std::string_view effektivergebnis) {
+        std::vector<std::string> texte;
+        for (const Tabellenspalte& spalte : HerleitungstabelleBilden(nullptr, effektivergebnis).spalten)
+            texte.push_back(spalte.kopf);
+        return texte;
+    };
+    EXPECT_THAT(koepfe("5,00000"), ElementsAre("Datum", "Betrag", "Faktor 5,00000 %", "Vermögensendwert",
+                                               "kumulierter Vermögensendwert", "kumulierte Zahlungen"));
+    EXPECT_EQ(koepfe(",50000")[2], "Faktor ,50000 %");
+    EXPECT_EQ(koepfe(" 5,00000 ")[2], "Faktor 5,00000 %");
+    EXPECT_EQ(koepfe("")[2], "Faktor  %");
+}
+
+TEST(Herleitungstabelle, OhneZeilenIstSieLeer) {
+    EXPECT_EQ(HerleitungstabelleBilden(nullptr, "").zeilen, 0U);
+}
+
 TEST(Herleitungsbericht, NenntMethodeZinssatzUndProjektUeberDerTabelle) {
     EXPECT_EQ(HerleitungsberichtBilden(Beispieldaten()).seitenzeile,
               "Herleitung des Effektivzinssatzes: Der kumulierte Vermögensendwert = 0,00 "

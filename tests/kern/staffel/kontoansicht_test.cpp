@@ -15,14 +15,14 @@ using testing::IsEmpty;
 
 std::vector<std::string> Koepfe(Kontoansicht ansicht) {
     std::vector<std::string> koepfe;
-    for (const Ansichtsspalte& spalte : Ansichtsspalten(ansicht))
+    for (const Kontospalte& spalte : Ansichtsspalten(ansicht))
         koepfe.emplace_back(spalte.kopf);
     return koepfe;
 }
 
 std::vector<std::string> Zellen(Kontoansicht ansicht, const Staffelsatz& satz) {
     std::vector<std::string> zellen;
-    for (const Ansichtsspalte& spalte : Ansichtsspalten(ansicht))
+    for (const Kontospalte& spalte : Ansichtsspalten(ansicht))
         zellen.push_back(spalte.zelle(satz));
     return zellen;
 }
@@ -161,6 +161,48 @@ TEST(Kurzform, ZeigtDasBeispiel) {
                 ElementsAre("31.03.2007", "Zinstermin", "0,00", "86,53", "15.086,53"));
     EXPECT_EQ(Zellen(detailansicht2, saetze[2])[3], "0") << "no days behind the last row";
     EXPECT_EQ(Zellen(detailansicht2, saetze[2])[5], "86,53");
+}
+
+TEST(Ansichtsregel, ZahlungenHeissenWieIhrRechnerSieNennt) {
+    const auto vorgang = [](Zahlungsvorgang art, std::string_view text) {
+        return Ansichtsspalten(detailansicht3, {.vorgang = art})[1].zelle(Zahlung("01.01.2007", 1, text));
+    };
+    EXPECT_EQ(vorgang(Zahlungsvorgang::textOderZahlung, " "), "Zahlung");
+    EXPECT_EQ(vorgang(Zahlungsvorgang::text, " "), "");
+    EXPECT_EQ(vorgang(Zahlungsvorgang::text, " Rate "), "Rate");
+    EXPECT_EQ(vorgang(Zahlungsvorgang::zahlung, "Rate"), "Zahlung");
+    EXPECT_EQ(Ansichtsspalten(kurzform, {.vorgang = Zahlungsvorgang::zahlung})[1].zelle(Termin("31.03.2007")),
+              "Zinstermin");
+}
+
+TEST(Ansichtsregel, KonditionenAuchInDerKurzform) {
+    const std::vector saetze{Kondition("01.01.2007", {}), Zahlung("01.02.2007", 5)};
+    EXPECT_THAT(Ansichtszeilen(kurzform, saetze, {.konditionenInKurzform = true}), ElementsAre(0U, 1U));
+}
+
+TEST(Ansichtsregel, EineGezeigteKonditionIstDieLetzteZeileDerSummen) {
+    std::vector saetze{Zahlung("01.02.2007", 5), Kondition("01.03.2007", {})};
+    saetze[0].Kontostand = 5;
+    saetze[1].Kontostand = 6;
+    EXPECT_EQ(KontosummenBilden(saetze, {.konditionenInKurzform = true}).Endvermögen, "6,00");
+    EXPECT_EQ(KontosummenBilden(saetze).Endvermögen, "5,00");
+}
+
+TEST(AnsichtBilden, ZeigtDieZeilenDerAnsicht) {
+    const auto saetze = std::make_shared<const std::vector<Staffelsatz>>(
+        std::vector{Kondition("01.01.2007", {}), Zahlung("01.02.2007", 1250.5, "Miete")});
+    const Tabelleninhalt tabelle = AnsichtBilden(kurzform, saetze);
+    ASSERT_EQ(tabelle.zeilen, 1U);
+    EXPECT_EQ(tabelle.zelle(0, 1), "Miete");
+    EXPECT_EQ(tabelle.zelle(0, 2), "1.250,50");
+    EXPECT_EQ(std::get<double>(tabelle.Wert(0, 2)), 1250.5);
+    EXPECT_EQ(std::get<Datum>(tabelle.Wert(0, 0)), Datum::Aus(2007, 2, 1));
+    EXPECT_EQ(std::get<std::string>(tabelle.Wert(0, 1)), "Miete");
+}
+
+TEST(AnsichtBilden, OhneLoesungHatSieKeineZeilen) {
+    EXPECT_EQ(AnsichtBilden(detailansicht3, nullptr).zeilen, 0U);
+    EXPECT_EQ(AnsichtBilden(detailansicht3, nullptr).spalten.size(), 15U);
 }
 
 TEST(KontosummenBilden, UeberDieZeilenDerKurzform) {

@@ -1,4 +1,4 @@
-#include "stapel/befehle/ansichtstabelle.h"
+#include "stapel/befehle/tabellentext.h"
 
 #include <algorithm>
 #include <string_view>
@@ -11,22 +11,17 @@ namespace {
 
 using Zeile = std::vector<std::string>;
 
-/// The header and the rows of a view.
-std::vector<Zeile> Zellen(Kontoansicht ansicht, std::span<const Staffelsatz> loesung) {
-    const auto spalten = Ansichtsspalten(ansicht);
+/// The header and the rows.
+std::vector<Zeile> Zellen(const Tabelleninhalt& tabelle) {
     std::vector<Zeile> zeilen(1);
-    for (const Ansichtsspalte& spalte : spalten)
-        zeilen.front().emplace_back(spalte.kopf);
-    for (const std::size_t nummer : Ansichtszeilen(ansicht, loesung)) {
+    for (const Tabellenspalte& spalte : tabelle.spalten)
+        zeilen.front().push_back(spalte.kopf);
+    for (std::size_t nummer = 0; nummer < tabelle.zeilen; ++nummer) {
         Zeile& zeile = zeilen.emplace_back();
-        for (const Ansichtsspalte& spalte : spalten)
-            zeile.push_back(spalte.zelle(loesung[nummer]));
+        for (std::size_t spalte = 0; spalte < tabelle.spalten.size(); ++spalte)
+            zeile.push_back(tabelle.zelle(nummer, spalte));
     }
     return zeilen;
-}
-
-bool IstLinksbuendig(std::string_view kopf) {
-    return kopf == "Datum" || kopf == "Vorgang" || kopf == "Basis für Zinssatz 2";
 }
 
 /// One line: control characters become blanks, and several blanks become one.
@@ -60,9 +55,9 @@ void FeldAnfuegen(std::string& text, std::string_view feld) {
 
 }  // namespace
 
-std::string AnsichtAlsText(Kontoansicht ansicht, std::span<const Staffelsatz> loesung) {
+std::string TabelleAlsText(const Tabelleninhalt& tabelle) {
     constexpr std::string_view zwischenraum = "  ";
-    std::vector<Zeile> zeilen = Zellen(ansicht, loesung);
+    std::vector<Zeile> zeilen = Zellen(tabelle);
     for (Zeile& zeile : zeilen)
         std::ranges::transform(zeile, zeile.begin(), Einzeilig);
     const std::vector<std::size_t> breiten = Breiten(zeilen);
@@ -70,7 +65,7 @@ std::string AnsichtAlsText(Kontoansicht ansicht, std::span<const Staffelsatz> lo
     for (const Zeile& zeile : zeilen) {
         for (std::size_t i = 0; i < zeile.size(); ++i) {
             const std::string luecke(breiten[i] - Zeichenzahl(zeile[i]), ' ');
-            const bool links = IstLinksbuendig(zeilen.front()[i]);
+            const bool links = tabelle.spalten[i].art != Zellart::zahl;
             if (i > 0) text += zwischenraum;
             text += links ? zeile[i] + luecke : luecke + zeile[i];
         }
@@ -79,9 +74,9 @@ std::string AnsichtAlsText(Kontoansicht ansicht, std::span<const Staffelsatz> lo
     return text;
 }
 
-std::string AnsichtAlsCsv(Kontoansicht ansicht, std::span<const Staffelsatz> loesung) {
+std::string TabelleAlsCsv(const Tabelleninhalt& tabelle) {
     std::string text;
-    for (const Zeile& zeile : Zellen(ansicht, loesung)) {
+    for (const Zeile& zeile : Zellen(tabelle)) {
         for (std::size_t i = 0; i < zeile.size(); ++i) {
             if (i > 0) text += ';';
             FeldAnfuegen(text, zeile[i]);

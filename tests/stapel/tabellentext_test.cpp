@@ -1,10 +1,11 @@
-#include "stapel/befehle/ansichtstabelle.h"
+#include "stapel/befehle/tabellentext.h"
 
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
 
 #include "kern/staffel/beispielkonto.h"
+#include "kern/staffel/kontoansicht.h"
 
 namespace zinfolio {
 namespace {
@@ -24,54 +25,58 @@ std::vector<Staffelsatz> Auszug(std::string_view text) {
             MitStand(Termin("31.03.2007"), 0, 86.53, 15086.53)};
 }
 
-TEST(AnsichtAlsText, SpaltenGleichBreitBetraegeRechts) {
-    EXPECT_EQ(AnsichtAlsText(Kontoansicht::kurzform, Auszug("Einlage")),
+Tabelleninhalt Tabelle(Kontoansicht ansicht, std::vector<Staffelsatz> zeilen) {
+    return AnsichtBilden(ansicht, std::make_shared<const std::vector<Staffelsatz>>(std::move(zeilen)));
+}
+
+TEST(TabelleAlsText, SpaltenGleichBreitBetraegeRechts) {
+    EXPECT_EQ(TabelleAlsText(Tabelle(Kontoansicht::kurzform, Auszug("Einlage"))),
               "Datum       Vorgang     Zahlungsbetrag  Zinsen  Kontostand\n"
               "01.01.2007  Einlage          15.000,00    0,00   15.000,00\n"
               "31.03.2007  Zinstermin            0,00   86,53   15.086,53\n");
 }
 
-TEST(AnsichtAlsText, LeerzeichenInDenKoepfenWerdenEines) {
+TEST(TabelleAlsText, LeerzeichenInDenKoepfenWerdenEines) {
     EXPECT_EQ(
-        AnsichtAlsText(Kontoansicht::detailansicht3, {}),
+        TabelleAlsText(Tabelle(Kontoansicht::detailansicht3, {})),
         "Datum  Vorgang  Guthabenzins 1 bis(t+1) %  Guthabenzins 2 bis(t+1) %  Guthabenlinie bis(t+1)  "
         "Kreditzins 1 bis (t+1) %  Kreditzins 2 bis (t+1) %  Kreditlinie bis(t+1)  Basis für Zinssatz 2  "
         "Betrag (t)  Tage bis (t+1)  Zinsen bis (t+1)  Zinsgutschrift (t)  kumulierte Zinsen bis (t+1)  "
         "Kontostand (t)\n");
 }
 
-TEST(AnsichtAlsText, UmlauteZaehlenAlsEinZeichen) {
-    EXPECT_EQ(AnsichtAlsText(Kontoansicht::kurzform, Auszug("Überfällige €")),
+TEST(TabelleAlsText, UmlauteZaehlenAlsEinZeichen) {
+    EXPECT_EQ(TabelleAlsText(Tabelle(Kontoansicht::kurzform, Auszug("Überfällige €"))),
               "Datum       Vorgang        Zahlungsbetrag  Zinsen  Kontostand\n"
               "01.01.2007  Überfällige €       15.000,00    0,00   15.000,00\n"
               "31.03.2007  Zinstermin               0,00   86,53   15.086,53\n");
 }
 
-TEST(AnsichtAlsText, SteuerzeichenBrechenKeineZeile) {
-    EXPECT_EQ(AnsichtAlsText(Kontoansicht::kurzform, Auszug("a\r\nb\tc\x7F"
-                                                            "d")),
+TEST(TabelleAlsText, SteuerzeichenBrechenKeineZeile) {
+    EXPECT_EQ(TabelleAlsText(Tabelle(Kontoansicht::kurzform, Auszug("a\r\nb\tc\x7F"
+                                                                    "d"))),
               "Datum       Vorgang     Zahlungsbetrag  Zinsen  Kontostand\n"
               "01.01.2007  a b c d          15.000,00    0,00   15.000,00\n"
               "31.03.2007  Zinstermin            0,00   86,53   15.086,53\n");
 }
 
-TEST(AnsichtAlsText, OhneZeilenBleibtDerKopf) {
-    EXPECT_EQ(AnsichtAlsText(Kontoansicht::kurzform, {}),
+TEST(TabelleAlsText, OhneZeilenBleibtDerKopf) {
+    EXPECT_EQ(TabelleAlsText(Tabelle(Kontoansicht::kurzform, {})),
               "Datum  Vorgang  Zahlungsbetrag  Zinsen  Kontostand\n");
 }
 
-TEST(AnsichtAlsCsv, KopfUndZellenWieSieSind) {
-    EXPECT_EQ(AnsichtAlsCsv(Kontoansicht::detailansicht1, Auszug("Einlage")),
+TEST(TabelleAlsCsv, KopfUndZellenWieSieSind) {
+    EXPECT_EQ(TabelleAlsCsv(Tabelle(Kontoansicht::detailansicht1, Auszug("Einlage"))),
               "Datum;Vorgang;Betrag (t);Zinsen bis (t+1);kumulierte Zinsen bis (t+1);Kontostand (t)\n"
               "01.01.2007;Konditionenänderung;0,00;0,00;0,00;0,00\n"
               "01.01.2007;Einlage;15.000,00;86,53;86,53;15.000,00\n"
               "31.03.2007;Zinstermin;0,00;0,00;0,00;15.086,53\n");
 }
 
-TEST(AnsichtAlsCsv, AlleSpaltenDerDrittenDetailansicht) {
+TEST(TabelleAlsCsv, AlleSpaltenDerDrittenDetailansicht) {
     EXPECT_EQ(
-        AnsichtAlsCsv(Kontoansicht::detailansicht3,
-                      std::vector{Kondition("01.01.2007", beispielkonditionen)}),
+        TabelleAlsCsv(
+            Tabelle(Kontoansicht::detailansicht3, std::vector{Kondition("01.01.2007", beispielkonditionen)})),
         "Datum;Vorgang;Guthabenzins 1           bis(t+1)  %;Guthabenzins 2           bis(t+1)  %;"
         "Guthabenlinie            bis(t+1);Kreditzins 1             bis (t+1) %;"
         "Kreditzins 2             bis (t+1) %;Kreditlinie bis(t+1);Basis für Zinssatz 2;Betrag (t);"
@@ -79,9 +84,9 @@ TEST(AnsichtAlsCsv, AlleSpaltenDerDrittenDetailansicht) {
         "01.01.2007;Konditionenänderung;2;3;10000;8;12;500;Betrag über Limit;0,00;0;0,00;0;0,00;0,00\n");
 }
 
-TEST(AnsichtAlsCsv, SonderzeichenStehenInAnfuehrungszeichen) {
+TEST(TabelleAlsCsv, SonderzeichenStehenInAnfuehrungszeichen) {
     const auto zeile = [](std::string_view text) {
-        const std::string csv = AnsichtAlsCsv(Kontoansicht::kurzform, Auszug(text));
+        const std::string csv = TabelleAlsCsv(Tabelle(Kontoansicht::kurzform, Auszug(text)));
         const std::size_t anfang = csv.find('\n') + 1;
         return csv.substr(anfang, csv.rfind("\n31.03.2007") - anfang);
     };
