@@ -1,49 +1,31 @@
 #include "stapel/befehle/aufruf.h"
 
 #include <CLI/CLI.hpp>
-#include <algorithm>
-#include <charconv>
+#include <functional>
 #include <memory>
-#include <optional>
 #include <string>
 #include <string_view>
-#include <thread>
 
-#include "stapel/befehle/aufruffehler.h"
-#include "stapel/befehle/ausgangsstatus.h"
 #include "stapel/befehle/befehle.h"
 #include "stapel/befehle/kanal.h"
-#include "stapel/befehle/staffeloptionen.h"
 
 namespace zinfolio {
 namespace {
 
-constexpr unsigned hoechsteKerne = 256;
-
-constexpr const char* statusworte =
+constexpr const char* beispiele =
+    "Beispiele:\n"
+    "  zinfolio-cli rechne konto.json\n"
+    "  zinfolio-cli staffel konto.ZiS --pdf konto.pdf\n"
+    "  zinfolio-cli stapel < auftraege.jsonl > ergebnisse.jsonl\n"
+    "\n"
     "Status am Ende: 0 gerechnet; 1 abgelehnt (im Stapel: wenigstens ein Auftrag ohne Ergebnis);\n"
     "2 falscher Aufruf, unlesbare Eingabe oder unschreibbare Ausgabe.";
-
-constexpr const char* stapelbeispiel =
-    "Beispiel:\n"
-    "  zinfolio-cli stapel < auftraege.jsonl > ergebnisse.jsonl\n"
-    "Ein Auftrag ist ein JSON-Objekt auf einer Zeile:\n"
-    R"(  {"id":1,"rechnung":"tage","Von":"01.01.2007","Bis":"31.03.2007","Verzinsungsmethode":0})";
-
-constexpr const char* rechnebeispiel =
-    "Beispiel:\n"
-    "  zinfolio-cli rechne konto.json";
 
 /// The command line with what it has been filled with.
 struct Kommandozeile {
     CLI::App app{"Rechnet Konten und Zahlungen, wie die Fenster von zinfolio es tun.", "zinfolio-cli"};
-    CLI::App* stapel = nullptr;
-    CLI::App* rechne = nullptr;
-    CLI::App* staffel = nullptr;
-    CLI::Option* kerne = nullptr;
-    std::string kernetext;
-    std::string datei;
-    std::optional<Staffeloptionen> staffeloptionen;
+    /// Runs the command that the line calls.
+    std::function<int()> ausfuehren;
 
     Kommandozeile() {
         Beschriften();
@@ -51,13 +33,9 @@ struct Kommandozeile {
         app.set_version_flag("--version", "zinfolio-cli " ZINFOLIO_VERSION, "Die Version zeigen")
             ->group("Optionen");
         app.require_subcommand(1);
-        app.footer(
-            "Beispiele:\n"
-            "  zinfolio-cli rechne konto.json\n"
-            "  zinfolio-cli staffel konto.ZiS --pdf konto.pdf\n"
-            "  zinfolio-cli stapel < auftraege.jsonl > ergebnisse.jsonl\n" +
-            std::string("\n") + statusworte);
-        Befehle();
+        app.footer(beispiele);
+        for (const Befehl* const befehl : befehle)
+            Anmelden(*befehl);
     }
 
     void Beschriften() {
@@ -73,28 +51,12 @@ struct Kommandozeile {
             ->group("Optionen");
     }
 
-    void Befehle() {
-        stapel = app.add_subcommand("stapel", "Rechnet Aufträge von der Standardeingabe, einen je Zeile");
-        kerne = stapel->add_option("--kerne", kernetext,
-                                   "Zahl der Rechenkerne, 1 bis " + std::to_string(hoechsteKerne) +
-                                       "; sonst alle des Rechners. Das Ergebnis ist immer dasselbe");
-        kerne->option_text("N")->take_last();
-        rechne =
-            app.add_subcommand("rechne", "Rechnet den Auftrag einer Datei und zeigt das Ergebnis eingerückt");
-        rechne->add_option("DATEI", datei, "Der Auftrag als JSON; - ist die Standardeingabe")
-            ->option_text(" ")
-            ->required();
-        stapel->footer(stapelbeispiel);
-        rechne->footer(rechnebeispiel);
-        staffel = app.add_subcommand(
-            "staffel", "Rechnet ein gespeichertes Konto und zeigt die Staffel oder schreibt ihren Bericht");
-        // Its many options are made only where the command is called, so that the others start as fast as
-        // before.
-        staffel->preparse_callback([this](std::size_t) { staffeloptionen.emplace(*staffel); });
-        for (CLI::App* const befehl : {stapel, rechne, staffel}) {
-            befehl->group("Befehle");
-            befehl->set_help_flag("-h,--help", "Diese Hilfe zeigen")->group("Optionen");
-        }
+    void Anmelden(const Befehl& befehl) {
+        CLI::App* const zeile = app.add_subcommand(befehl.wort, befehl.erklaerung)->group("Befehle");
+        zeile->set_help_flag("-h,--help", "Diese Hilfe zeigen")->group("Optionen");
+        // Options are made only where the command is called, so that no command pays for the others.
+        zeile->preparse_callback(
+            [this, &befehl, zeile](std::size_t) { ausfuehren = befehl.anbieten(*zeile); });
     }
 };
 
@@ -109,29 +71,18 @@ void UeberzaehligesAblehnen(const CLI::App& app) {
     throw Aufruffehler("Die Angabe " + Angefuehrt(erstes) + " ist zu viel.");
 }
 
-/// The option that the library's message begins with.
-[[noreturn]] void WertFehlt(const CLI::ParseError& fehler) {
+/// The word that a message of the library begins with: an option or the name of an argument.
+std::string ErstesWort(const CLI::ParseError& fehler) {
     const std::string_view text = fehler.what();
-    throw Aufruffehler("Die Option " + Angefuehrt(text.substr(0, text.find_first_of(" :"))) +
-                       " steht nicht mit der richtigen Zahl von Werten.");
+    return std::string(text.substr(0, text.find_first_of(" :")));
 }
 
-unsigned KerneLesen(const Kommandozeile& zeile) {
-    if (zeile.kerne->count() == 0) return std::max(1U, std::thread::hardware_concurrency());
-    const std::string& text = zeile.kernetext;
-    unsigned kerne = 0;
-    const auto [ende, fehler] = std::from_chars(text.data(), text.data() + text.size(), kerne);
-    const bool ganz = fehler == std::errc() && ende == text.data() + text.size();
-    if (ganz && kerne >= 1 && kerne <= hoechsteKerne) return kerne;
-    throw Aufruffehler("Die Option \"--kerne\" verlangt eine ganze Zahl von 1 bis " +
-                       std::to_string(hoechsteKerne) + ", nicht " + Angefuehrt(text) + ".");
-}
-
-int Ausfuehren(const Kommandozeile& zeile) {
-    UeberzaehligesAblehnen(zeile.app);
-    if (zeile.stapel->parsed()) return BefehlStapel(KerneLesen(zeile));
-    if (zeile.staffel->parsed()) return BefehlStaffel(zeile.staffeloptionen->Lesen());
-    return BefehlRechne(zeile.datei);
+[[noreturn]] void EtwasFehlt(const CLI::App& app, const CLI::RequiredError& fehler) {
+    UeberzaehligesAblehnen(app);
+    const auto gerufen = app.get_subcommands();
+    if (gerufen.empty()) throw Aufruffehler("Es fehlt der Befehl.");
+    throw Aufruffehler("Dem Befehl " + Angefuehrt(gerufen.front()->get_name()) + " fehlt die " +
+                       ErstesWort(fehler) + ".");
 }
 
 /// Reads the arguments and runs the command. Throws `Aufruffehler`.
@@ -144,14 +95,14 @@ int Verarbeiten(Kommandozeile& zeile, int argc, const char* const* argv) {
     } catch (const CLI::CallForVersion& version) {
         AusgabeSchreiben(std::string(version.what()) + "\n");
         return status::fertig;
-    } catch (const CLI::RequiredError&) {
-        UeberzaehligesAblehnen(zeile.app);
-        if (zeile.rechne->parsed()) throw Aufruffehler("Dem Befehl \"rechne\" fehlt die DATEI.");
-        throw Aufruffehler("Es fehlt der Befehl.");
+    } catch (const CLI::RequiredError& fehler) {
+        EtwasFehlt(zeile.app, fehler);
     } catch (const CLI::ParseError& fehler) {
-        WertFehlt(fehler);
+        throw Aufruffehler("Die Option " + Angefuehrt(ErstesWort(fehler)) +
+                           " steht nicht mit der richtigen Zahl von Werten.");
     }
-    return Ausfuehren(zeile);
+    UeberzaehligesAblehnen(zeile.app);
+    return zeile.ausfuehren();
 }
 
 }  // namespace

@@ -2,18 +2,20 @@
 #include <string_view>
 
 #include "stapel/auftraege/auftragsrechner.h"
-#include "stapel/befehle/ausgangsstatus.h"
+#include "stapel/befehle/aufruf.h"
 #include "stapel/befehle/befehle.h"
+#include "stapel/befehle/eingaben.h"
 #include "stapel/befehle/kanal.h"
+#include "stapel/befehle/optionen.h"
 #include "stapel/befehle/zeilenleser.h"
 #include "stapel/json/jsonschreiber.h"
 
 namespace zinfolio {
 namespace {
 
-std::string Anzeigename(const std::string& datei) {
-    return datei == "-" ? "Standardeingabe" : datei;
-}
+constexpr const char* beispiel =
+    "Beispiel:\n"
+    "  zinfolio-cli rechne konto.json";
 
 int Gescheitert(const std::string& ort, const std::string& grund) {
     FehlerMelden(ort + ": " + grund);
@@ -23,7 +25,7 @@ int Gescheitert(const std::string& ort, const std::string& grund) {
 /// "DATEI:ZEILE"; the first line where the place is not known.
 std::string Ort(const std::string& datei, std::string_view text, std::size_t stelle) {
     const auto zeile = 1 + std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(stelle), '\n');
-    return Anzeigename(datei) + ":" + std::to_string(zeile);
+    return Eingabename(datei) + ":" + std::to_string(zeile);
 }
 
 int Rechnen(const std::string& datei, std::string_view text) {
@@ -38,16 +40,28 @@ int Rechnen(const std::string& datei, std::string_view text) {
     return status::abgelehnt;
 }
 
-}  // namespace
-
-int BefehlRechne(const std::string& datei) {
+int Ausfuehren(const std::string& datei) {
     Dateitext text;
     try {
         text = DateiLesen(datei, hoechsteZeilenlaenge);
     } catch (const Kanalfehler& fehler) {
-        return Gescheitert(Anzeigename(datei), fehler.what());
+        return Gescheitert(Eingabename(datei), fehler.what());
     }
     return Rechnen(datei, std::string_view(text.puffer).substr(0, text.laenge));
 }
+
+std::function<int()> Anbieten(CLI::App& zeile) {
+    zeile.footer(beispiel);
+    const Option datei = zeile.add_option("DATEI")
+                             ->description("Der Auftrag als JSON; - ist die Standardeingabe")
+                             ->option_text(" ")
+                             ->required();
+    return [datei] { return Ausfuehren(Optionstext(datei)); };
+}
+
+}  // namespace
+
+constexpr Befehl befehlRechne{"rechne", "Rechnet den Auftrag einer Datei und zeigt das Ergebnis eingerückt",
+                              Anbieten};
 
 }  // namespace zinfolio

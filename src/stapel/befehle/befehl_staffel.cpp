@@ -1,48 +1,140 @@
+#include <array>
 #include <filesystem>
 #include <memory>
-#include <new>
-#include <set>
-#include <system_error>
 #include <vector>
 
-#include "kern/bericht/htmlbericht.h"
-#include "kern/bericht/rtfbericht.h"
-#include "kern/dateien/atomar.h"
-#include "kern/dateien/dateifehler.h"
-#include "kern/grund/meldungen.h"
 #include "kern/staffel/kontobericht.h"
 #include "kern/staffel/kontoprojekt.h"
 #include "stapel/auftraege/ergebnisse.h"
-#include "stapel/befehle/aufruffehler.h"
-#include "stapel/befehle/ausgangsstatus.h"
+#include "stapel/befehle/aufruf.h"
 #include "stapel/befehle/befehle.h"
-#include "stapel/befehle/kanal.h"
+#include "stapel/befehle/eingaben.h"
 #include "stapel/befehle/kontocsv.h"
-#include "stapel/befehle/pdfmodul.h"
-#include "stapel/befehle/tabellentext.h"
-#include "stapel/json/jsonschreiber.h"
+#include "stapel/befehle/optionen.h"
 
 namespace zinfolio {
 namespace {
 
 namespace fs = std::filesystem;
 
-/// Far more than any account.
-constexpr std::size_t hoechsteTabellenlaenge = std::size_t{32} << 20;
+constexpr std::array zinsverrechnungen{
+    Wahl{"monatsende", Zinsverrechnungsart::monatsende},   Wahl{"2monate", Zinsverrechnungsart::alle2Monate},
+    Wahl{"quartal", Zinsverrechnungsart::quartalsende},    Wahl{"4monate", Zinsverrechnungsart::alle4Monate},
+    Wahl{"halbjahr", Zinsverrechnungsart::halbjahresende}, Wahl{"jahr", Zinsverrechnungsart::jahresende},
+};
 
-using Tabellenleser = std::vector<Staffelsatz> (*)(std::string_view text);
+constexpr std::array verzinsungen{
+    Wahl{"30/360", Verzinsungsmethode::deutsch},       Wahl{"kal/kal", Verzinsungsmethode::englisch},
+    Wahl{"kal/360", Verzinsungsmethode::franzoesisch}, Wahl{"30/365", Verzinsungsmethode::dreissig365},
+    Wahl{"kal/365", Verzinsungsmethode::kalender365},
+};
 
-/// Throws a `Kanalfehler` that names file, line and reason.
-std::vector<Staffelsatz> TabelleLesen(const std::string& datei, Tabellenleser lesen) {
-    const std::string name = datei == "-" ? "Standardeingabe" : datei;
-    try {
-        const Dateitext text = DateiLesen(datei, hoechsteTabellenlaenge);
-        return lesen(std::string_view(text.puffer).substr(0, text.laenge));
-    } catch (const Kanalfehler& fehler) {
-        throw Kanalfehler(name + ": " + fehler.what());
-    } catch (const Csvfehler& fehler) {
-        throw Kanalfehler(name + ":" + std::to_string(fehler.Zeile()) + ": " + fehler.what());
-    }
+constexpr std::array ansichten{
+    Wahl{"kurz", Kontoansicht::kurzform},
+    Wahl{"detail1", Kontoansicht::detailansicht1},
+    Wahl{"detail2", Kontoansicht::detailansicht2},
+    Wahl{"detail3", Kontoansicht::detailansicht3},
+};
+
+constexpr const char* beispiele =
+    "Beispiele:\n"
+    "  zinfolio-cli staffel konto.ZiS --ansicht detail1 --effektiv isma\n"
+    "  zinfolio-cli staffel konto.ZiS --pdf konto.pdf\n"
+    "  zinfolio-cli staffel --zahlungen zahlungen.csv --zinssaetze zinssaetze.csv --abschluss 31.12.2007\n"
+    "Die Tabellen sind durch Semikolons getrennt, in UTF-8 oder Windows-1252, mit diesen Kopfzeilen:\n"
+    "  Datum;Betrag;Beschreibung\n"
+    "  Datum;Gutzins1;Gutzins2;Guthabenlinie;Kreditzins1;Kreditzins2;Kreditlinie;Zweitzinsart\n"
+    "Beträge und Zinssätze haben ein Dezimalkomma. Zweitzinsart 1: der zweite Zinssatz gilt für den ganzen\n"
+    "Saldo, 2: für den Betrag über der Linie.";
+
+/// What the command is asked for.
+struct Staffelaufruf {
+    /// Empty: the account comes from the two tables and `einstellungen`.
+    std::string projekt{};
+    std::string zahlungen{};
+    std::string zinssaetze{};
+    Kontoeinstellungen einstellungen{};
+    Kontoansicht ansicht = Kontoansicht::kurzform;
+    std::optional<Effektivmethode> effektivmethode{};
+    Ausgabewunsch ausgaben{};
+};
+
+class Staffeloptionen {
+  public:
+    explicit Staffeloptionen(CLI::App& zeile);
+
+    [[nodiscard]] Staffelaufruf Lesen() const;
+
+  private:
+    void EingabePruefen() const;
+    [[nodiscard]] Kontoeinstellungen EinstellungenLesen() const;
+
+    Option projekt_;
+    Option zahlungen_;
+    Option zinssaetze_;
+    Option abschluss_;
+    Option zinsverrechnung_;
+    Option verzinsung_;
+    Option ansicht_;
+    Option effektiv_;
+    Ausgabeoptionen ausgaben_;
+};
+
+// The members are initialised, and thus the options listed, in their order.
+Staffeloptionen::Staffeloptionen(CLI::App& zeile)
+    : projekt_(zeile.add_option("KONTO.ZiS")->description("Das gespeicherte Konto")->option_text(" ")),
+      zahlungen_(OptionAnbieten(zeile, "--zahlungen", "DATEI",
+                                "Statt eines Kontos: Tabelle der Zahlungen; - ist die Standardeingabe")),
+      zinssaetze_(OptionAnbieten(zeile, "--zinssaetze", "DATEI", "und Tabelle der Zinssätze")),
+      abschluss_(OptionAnbieten(zeile, "--abschluss", "DATUM",
+                                "Zu Tabellen: Datum des Kontoabschlusses, tt.mm.jjjj")),
+      zinsverrechnung_(OptionAnbieten(zeile, "--zinsverrechnung", "ART",
+                                      "Zu Tabellen: " + Aufzaehlung(zinsverrechnungen) + "; sonst jahr")),
+      verzinsung_(OptionAnbieten(zeile, "--verzinsung", "METHODE",
+                                 "Zu Tabellen: " + Aufzaehlung(verzinsungen) + "; sonst 30/360")),
+      ansicht_(OptionAnbieten(zeile, "--ansicht", "ANSICHT", Aufzaehlung(ansichten) + "; sonst kurz")),
+      effektiv_(OptionAnbieten(zeile, "--effektiv", "METHODE",
+                               "Dazu der Effektivzinssatz nach " + Aufzaehlung(effektivwahl))),
+      ausgaben_(zeile) {
+    zeile.footer(beispiele);
+}
+
+void Staffeloptionen::EingabePruefen() const {
+    const bool konto = !Optionstext(projekt_).empty();
+    if (konto)
+        return NebeneinanderAblehnen({zahlungen_, zinssaetze_, abschluss_, zinsverrechnung_, verzinsung_},
+                                     "einem Konto");
+    if (!OptionSteht(zahlungen_) && !OptionSteht(zinssaetze_))
+        throw Aufruffehler("Dem Befehl \"staffel\" fehlt das Konto.");
+    if (!OptionSteht(zahlungen_) || !OptionSteht(zinssaetze_))
+        throw Aufruffehler("Die Optionen \"--zahlungen\" und \"--zinssaetze\" stehen nur zusammen.");
+}
+
+Kontoeinstellungen Staffeloptionen::EinstellungenLesen() const {
+    Kontoeinstellungen einstellungen;
+    einstellungen.Kontodatum = Optionsdatum(abschluss_);
+    if (OptionSteht(zinsverrechnung_))
+        einstellungen.Zinsverrechnungsart = Optionswahl(zinsverrechnungen, zinsverrechnung_);
+    if (OptionSteht(verzinsung_)) einstellungen.Verzinsungsmethode = Optionswahl(verzinsungen, verzinsung_);
+    return einstellungen;
+}
+
+Staffelaufruf Staffeloptionen::Lesen() const {
+    EingabePruefen();
+    Staffelaufruf aufruf{.projekt = Optionstext(projekt_),
+                         .zahlungen = Optionsdatei(zahlungen_),
+                         .zinssaetze = Optionsdatei(zinssaetze_),
+                         .einstellungen = EinstellungenLesen(),
+                         .ausgaben = ausgaben_.Lesen()};
+    if (OptionSteht(ansicht_)) aufruf.ansicht = Optionswahl(ansichten, ansicht_);
+    if (OptionSteht(effektiv_)) aufruf.effektivmethode = Optionswahl(effektivwahl, effektiv_);
+    return aufruf;
+}
+
+std::vector<fs::path> Eingaben(const Staffelaufruf& aufruf) {
+    if (aufruf.projekt.empty()) return {aufruf.zahlungen, aufruf.zinssaetze};
+    const Projektpfade pfade(aufruf.projekt);
+    return {pfade.projekt, pfade.zahlungen, pfade.konditionen, pfade.einstellungen};
 }
 
 Konto KontoLesen(const Staffelaufruf& aufruf) {
@@ -54,140 +146,52 @@ Konto KontoLesen(const Staffelaufruf& aufruf) {
     return konto;
 }
 
-std::vector<fs::path> Eingaben(const Staffelaufruf& aufruf) {
-    if (aufruf.projekt.empty()) return {aufruf.zahlungen, aufruf.zinssaetze};
-    const Projektpfade pfade(aufruf.projekt);
-    return {pfade.projekt, pfade.zahlungen, pfade.konditionen, pfade.einstellungen};
-}
-
-/// No mistyped call may destroy an account.
-void AusgabenPruefen(const Staffelaufruf& aufruf) {
-    const std::vector<fs::path> eingaben = Eingaben(aufruf);
-    std::set<fs::path> vergeben;
-    for (const std::string& ausgabe : {aufruf.ausgabe, aufruf.pdf, aufruf.rtf, aufruf.html}) {
-        if (!ausgabe.empty() && !vergeben.insert(fs::absolute(ausgabe).lexically_normal()).second)
-            throw Aufruffehler("Die Ausgabe \"" + ausgabe + "\" steht zweimal da.");
-        for (const fs::path& eingabe : eingaben) {
-            std::error_code egal;
-            if (!ausgabe.empty() && fs::equivalent(ausgabe, eingabe, egal))
-                throw Aufruffehler("Die Ausgabe \"" + ausgabe + "\" nähme einer Eingabe den Platz.");
-        }
-    }
-}
-
-/// The operation's trap: a fault of the calculation becomes the general message.
-template <typename Rechnung>
-std::optional<Ablehnung> MitFalle(Rechnung rechnung) {
-    try {
-        return rechnung();
-    } catch (const std::bad_alloc&) {
-        throw;
-    } catch (const std::exception&) {
-        return Ablehnung{std::string(meldung::angabenFehler), "", ""};
-    }
-}
-
-std::string Effektivzeilen(const Kontoeffektivzins& effektivzins, Effektivmethode methode) {
-    const std::string satz = effektivzins.ezins.empty() ? "keiner gefunden" : effektivzins.ezins + " %";
-    return "\nEffektivzinssatzberechnungsmethode: " + std::string(Effektivmethodentext(methode)) +
-           "\nEffektivzinssatz: " + satz + "\n";
-}
-
-/// The result object of the job `staffel`, without its `id`.
-std::string AlsJson(const Staffelergebnis& ergebnis, const std::optional<Ablehnung>& ablehnung) {
-    std::string json;
-    JsonSchreiber schreiber(json);
-    schreiber.ObjektAuf();
-    schreiber.Feld("ok", !ablehnung);
-    if (ablehnung) {
-        AblehnungsfelderSchreiben(*ablehnung, schreiber);
-    } else {
-        StaffelergebnisSchreiben(ergebnis, schreiber);
-    }
-    schreiber.ObjektZu();
-    return JsonEingezogen(json) + "\n";
-}
-
-/// The calculated rows, which share the whole result.
+/// The calculated rows, sharing the whole result, of which they are a part.
 std::shared_ptr<const std::vector<Staffelsatz>> Loesung(
     const std::shared_ptr<const Staffelergebnis>& ergebnis) {
     return {ergebnis, &ergebnis->konto.loesung};
 }
 
-std::string AlsAusgabe(const std::shared_ptr<const Staffelergebnis>& ergebnis, const Staffelaufruf& aufruf) {
-    const auto ansicht = [&] { return AnsichtBilden(aufruf.ansicht, Loesung(ergebnis)); };
-    switch (aufruf.format.value()) {
-        case Ausgabeformat::json:
-            return AlsJson(*ergebnis, std::nullopt);
-        case Ausgabeformat::csv:
-            return TabelleAlsCsv(ansicht());
-        case Ausgabeformat::text:
-            break;
-    }
-    std::string text = TabelleAlsText(ansicht());
-    if (ergebnis->effektivzins) text += Effektivzeilen(*ergebnis->effektivzins, *aufruf.effektivmethode);
-    return text;
-}
-
 Bericht BerichtBilden(const std::shared_ptr<const Staffelergebnis>& ergebnis, const Staffelaufruf& aufruf) {
-    const Konto& konto = ergebnis->konto;
     Kontoberichtsdaten daten;
     daten.projekt = fs::path(aufruf.projekt).filename().string();
-    daten.einstellungen = konto.einstellungen;
+    daten.einstellungen = ergebnis->konto.einstellungen;
     if (ergebnis->effektivzins) {
         daten.ezins = ergebnis->effektivzins->ezins;
         daten.effektivmethode = Effektivmethodentext(*aufruf.effektivmethode);
     }
-    daten.konditionen = konto.konditionen;
+    daten.konditionen = ergebnis->konto.konditionen;
     daten.loesung = Loesung(ergebnis);
     daten.ansicht = aufruf.ansicht;
     return KontoberichtBilden(daten);
 }
 
-bool BerichtVerlangt(const Staffelaufruf& aufruf) {
-    return !aufruf.pdf.empty() || !aufruf.rtf.empty() || !aufruf.html.empty();
+std::variant<Befehlsergebnis, Ablehnung> Rechnen(const std::shared_ptr<Staffelergebnis>& ergebnis,
+                                                 const Staffelaufruf& aufruf) {
+    if (auto ablehnung = StaffelRechnen(*ergebnis, aufruf.effektivmethode)) return std::move(*ablehnung);
+    Befehlsergebnis ausgang{
+        .felder = [ergebnis](JsonSchreiber& s) { StaffelergebnisSchreiben(*ergebnis, s); },
+        .tabelle = [ergebnis, aufruf] { return AnsichtBilden(aufruf.ansicht, Loesung(ergebnis)); },
+        .bericht = [ergebnis, aufruf] { return BerichtBilden(ergebnis, aufruf); }};
+    if (ergebnis->effektivzins)
+        ausgang.nachsatz = Effektivzeilen(ergebnis->effektivzins->ezins, *aufruf.effektivmethode);
+    return ausgang;
 }
 
-/// Throws a `Dateifehler`.
-void BerichteSchreiben(const Bericht& bericht, const Staffelaufruf& aufruf) {
-    if (!aufruf.pdf.empty()) {
-        const std::string fehler = PdfSchreiben(bericht, aufruf.pdf);
-        if (!fehler.empty()) throw Dateifehler(fehler);
-    }
-    if (!aufruf.rtf.empty()) AtomarSchreiben(aufruf.rtf, RtfBericht(bericht), Sicherung::Dauerhaft);
-    if (!aufruf.html.empty()) AtomarSchreiben(aufruf.html, HtmlBericht(bericht), Sicherung::Dauerhaft);
+int Ausfuehren(const Staffelaufruf& aufruf) {
+    AusgabenPruefen(aufruf.ausgaben, Eingaben(aufruf));
+    const auto ergebnis = std::make_shared<Staffelergebnis>();
+    ergebnis->konto = KontoLesen(aufruf);
+    return ErgebnisAusgeben(aufruf.ausgaben, [&] { return Rechnen(ergebnis, aufruf); });
 }
 
-void Ausgeben(const std::string& text, const Staffelaufruf& aufruf) {
-    if (aufruf.ausgabe.empty() || aufruf.ausgabe == "-") return AusgabeSchreiben(text);
-    AtomarSchreiben(aufruf.ausgabe, text, Sicherung::Dauerhaft);
-}
-
-int Ablehnen(const Ablehnung& ablehnung, const Staffelaufruf& aufruf) {
-    if (aufruf.format == Ausgabeformat::json) Ausgeben(AlsJson({}, ablehnung), aufruf);
-    if (!ablehnung.Meldung.empty()) FehlerMelden(ablehnung.Meldung);
-    return status::abgelehnt;
+std::function<int()> Anbieten(CLI::App& zeile) {
+    return [optionen = Staffeloptionen(zeile)] { return Ausfuehren(optionen.Lesen()); };
 }
 
 }  // namespace
 
-int BefehlStaffel(const Staffelaufruf& aufruf) {
-    AusgabenPruefen(aufruf);
-    const auto ergebnis = std::make_shared<Staffelergebnis>();
-    ergebnis->konto = KontoLesen(aufruf);
-    std::string ausgabe;
-    std::optional<Bericht> bericht;
-    const auto ablehnung = MitFalle([&] {
-        auto abgelehnt = StaffelRechnen(*ergebnis, aufruf.effektivmethode);
-        if (abgelehnt) return abgelehnt;
-        if (aufruf.format) ausgabe = AlsAusgabe(ergebnis, aufruf);
-        if (BerichtVerlangt(aufruf)) bericht = BerichtBilden(ergebnis, aufruf);
-        return abgelehnt;
-    });
-    if (ablehnung) return Ablehnen(*ablehnung, aufruf);
-    if (bericht) BerichteSchreiben(*bericht, aufruf);
-    if (aufruf.format) Ausgeben(ausgabe, aufruf);
-    return status::fertig;
-}
+constexpr Befehl befehlStaffel{
+    "staffel", "Rechnet ein gespeichertes Konto und zeigt die Staffel oder schreibt ihren Bericht", Anbieten};
 
 }  // namespace zinfolio

@@ -1,20 +1,32 @@
 #pragma once
-// The commands of the program. Each gives the exit status; see `ausgangsstatus.h`.
+// The commands of the program. A command is one file `befehl_NAME.cpp`: its options, how they are read, and
+// what it does. It is entered here, in the list below.
 
-#include <string>
+#include <array>
+#include <functional>
 
-#include "stapel/befehle/staffelaufruf.h"
+namespace CLI {
+class App;
+}
 
 namespace zinfolio {
 
-/// Jobs from standard input, results to standard output, on so many cores.
-[[nodiscard]] int BefehlStapel(unsigned kerne);
+/// A command by its word on the command line.
+struct Befehl {
+    const char* wort;
+    /// One line of the help.
+    const char* erklaerung;
+    /// Adds options and examples to the command line, which outlives them. Gives what runs the command once
+    /// the line has been read: it returns the exit status (`aufruf.h`) and throws `Aufruffehler` for
+    /// wrong values, `Kanalfehler` and `Dateifehler` for what cannot be read or written.
+    std::function<int()> (*anbieten)(CLI::App& zeile);
+};
 
-/// One job from a file ("-" is standard input), its result on indented lines.
-[[nodiscard]] int BefehlRechne(const std::string& datei);
+extern const Befehl befehlRechne;
+extern const Befehl befehlStaffel;
+extern const Befehl befehlStapel;
 
-/// A saved account, or one from tables: a view of its statement, and reports. Throws `Aufruffehler` where an
-/// output would take the place of an input.
-[[nodiscard]] int BefehlStaffel(const Staffelaufruf& aufruf);
+/// All commands in the order of the help.
+inline constexpr std::array befehle{&befehlStapel, &befehlRechne, &befehlStaffel};
 
 }  // namespace zinfolio

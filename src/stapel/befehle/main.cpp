@@ -1,7 +1,6 @@
 #include <new>
 
 #include "stapel/befehle/aufruf.h"
-#include "stapel/befehle/ausgangsstatus.h"
 #include "stapel/befehle/kanal.h"
 
 int main(int argc, char** argv) {
