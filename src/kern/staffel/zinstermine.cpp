@@ -13,28 +13,27 @@ int Monate(Zinsverrechnungsart art) {
     return monate.at(static_cast<std::size_t>(art));
 }
 
-/// The last day of the month in which the rhythm's first period of the year ends.
-Datum ErsterKandidat(int jahr, Zinsverrechnungsart art) {
+}  // namespace
+
+Datum ErsterZinstermin(int jahr, Zinsverrechnungsart art) {
     const int monat = Monate(art);
     return *Datum::Aus(jahr, monat, Monatslaenge(jahr, monat));
 }
 
-Datum NaechsterTermin(Datum datum, Zinsverrechnungsart art) {
+Datum NaechsterZinstermin(Datum datum, Zinsverrechnungsart art) {
     return Monatsletzter(PlusMonate(datum, Monate(art)));
 }
 
-}  // namespace
-
 void Zinstermine(Datum erstdatum, Datum kontodatum, Zinsverrechnungsart art, std::vector<Datum>& termine) {
     termine.clear();
-    const Datum kandidat = ErsterKandidat(erstdatum.Jahr(), art);
+    const Datum kandidat = ErsterZinstermin(erstdatum.Jahr(), art);
     Datum datum = kandidat;
     while (datum < erstdatum)
-        datum = NaechsterTermin(datum, art);
+        datum = NaechsterZinstermin(datum, art);
     termine.push_back(datum);
     while (true) {
         if (termine.size() >= hoechstzahl) throw Datumsfehler("Es gibt mehr als 32767 Zinstermine.");
-        datum = NaechsterTermin(datum, art);
+        datum = NaechsterZinstermin(datum, art);
         if (datum >= kontodatum) break;
         termine.push_back(datum);
     }

@@ -25,6 +25,13 @@ inline constexpr std::array<std::string_view, 6> zinsverrechnungsarten{
     "Monatsende", "Alle 2 Monate", "Quartalsende", "Alle 4 Monate", "Halbjahresende", "Jahresende",
 };
 
+/// The last day of the month in which the rhythm's first period of the year ends. REQUIRES: a year of the
+/// calendar.
+[[nodiscard]] Datum ErsterZinstermin(int jahr, Zinsverrechnungsart art);
+
+/// The month end one period later. Leaving the calendar is a `Datumsfehler`.
+[[nodiscard]] Datum NaechsterZinstermin(Datum datum, Zinsverrechnungsart art);
+
 /// The settlement dates of an account whose first payment is on `erstdatum` and which closes on `kontodatum`;
 /// the closing date is always the last one. Dates lie on the month ends of a grid that starts at the rhythm's
 /// first candidate in the year of the first payment. `termine` is emptied first; when the calendar is left
