@@ -1,0 +1,51 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <span>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace zinfolio {
+
+/// A result table as the user sees it: headers and cell texts (UTF-8). Grid, report, chart and batch command
+/// take its cells as they stand.
+class Zellentabelle {
+  public:
+    Zellentabelle() = default;
+    explicit Zellentabelle(std::vector<std::string> kopftexte) : koepfe(std::move(kopftexte)) {}
+
+    [[nodiscard]] const std::vector<std::string>& Koepfe() const { return koepfe; }
+    [[nodiscard]] std::size_t Spalten() const { return koepfe.size(); }
+    [[nodiscard]] std::size_t Zeilen() const { return koepfe.empty() ? 0 : zellen.size() / koepfe.size(); }
+
+    /// The cells of a row, counted from 0. Valid until the table changes.
+    [[nodiscard]] std::span<const std::string> Zeile(std::size_t zeile) const {
+        return std::span(zellen).subspan(zeile * Spalten(), Spalten());
+    }
+    [[nodiscard]] const std::string& Zelle(std::size_t zeile, std::size_t spalte) const {
+        return Zeile(zeile)[spalte];
+    }
+
+    void Reservieren(std::size_t zeilen) { zellen.reserve(zeilen * Spalten()); }
+
+    /// REQUIRES: N is the number of columns.
+    template <std::size_t N>
+    void Anhaengen(std::array<std::string, N>&& zeile) {
+        for (std::string& zelle : zeile)
+            zellen.push_back(std::move(zelle));
+    }
+
+    void Setzen(std::size_t zeile, std::size_t spalte, std::string text) {
+        zellen[zeile * Spalten() + spalte] = std::move(text);
+    }
+
+    friend bool operator==(const Zellentabelle&, const Zellentabelle&) = default;
+
+  private:
+    std::vector<std::string> koepfe;
+    std::vector<std::string> zellen;
+};
+
+}  // namespace zinfolio
