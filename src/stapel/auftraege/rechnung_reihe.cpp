@@ -1,19 +1,17 @@
 #include <string>
 
+#include "kern/allround/meldungen.h"
 #include "kern/dateien/satzdatei.h"
 #include "kern/dates/textteile.h"
 #include "kern/finmath/herleitung.h"
 #include "kern/finmath/reiheauswerten.h"
 #include "kern/grund/rechenfehler.h"
-#include "kern/staffel/meldungen.h"
 #include "stapel/auftraege/ergebnisse.h"
 #include "stapel/auftraege/felder.h"
 #include "stapel/auftraege/rechnungen.h"
 
 namespace zinfolio {
 namespace {
-
-constexpr std::string_view keineReihe = "Es müssen erst die Zahlungen eingegeben werden.";
 
 struct Reihenauftrag {
     Reihenliste Zahlungen;
@@ -31,9 +29,7 @@ void ZinssatzSchreiben(const std::optional<double>& zinssatz, JsonSchreiber& erg
 std::optional<Ablehnung> Rechne(const Reihenauftrag& reihe, JsonSchreiber& ergebnis) {
     if (reihe.Zahlungen.saetze.size() > HoechstzahlSaetze) throw Rechenfehler("Mehr als 32767 Zahlungen.");
     const auto& saetze = reihe.Zahlungen.saetze;
-    if (saetze.empty()) {
-        return Ablehnung{std::string(keineReihe), "Begdatum", std::string(register_::zahlungen)};
-    }
+    if (saetze.empty()) return OhneZahlungen(meldung::erstDieZahlungen);
     const Reihenauswertung rate = ReiheAuswerten(saetze, reihe.Effektivmethode);
     const bool gefunden = !rate.Effektivzins.empty();
     ergebnis.Feld("Effektivergebnis", rate.Effektivzins);

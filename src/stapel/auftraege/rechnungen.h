@@ -33,20 +33,25 @@ template <const auto& felder, auto rechne>
 }
 
 extern const Rechnungsart rechnungDatum;
+extern const Rechnungsart rechnungJahreswerte;
 extern const Rechnungsart rechnungPeriodenzinsen;
 extern const Rechnungsart rechnungReihe;
 extern const Rechnungsart rechnungReihenwert;
+extern const Rechnungsart rechnungSensitivitaet;
 extern const Rechnungsart rechnungStaffel;
 extern const Rechnungsart rechnungTage;
+extern const Rechnungsart rechnungTilgungsplan;
+extern const Rechnungsart rechnungWertanalyse;
 extern const Rechnungsart rechnungZahlformat;
 extern const Rechnungsart rechnungZahlungsreihe;
 extern const Rechnungsart rechnungZinstermine;
 
 /// All kinds, the most frequent first.
 inline constexpr std::array rechnungsarten{
-    &rechnungStaffel,    &rechnungReihe,          &rechnungReihenwert,
-    &rechnungTage,       &rechnungPeriodenzinsen, &rechnungDatum,
-    &rechnungZahlformat, &rechnungZahlungsreihe,  &rechnungZinstermine,
+    &rechnungStaffel,        &rechnungReihe,       &rechnungReihenwert,   &rechnungTage,
+    &rechnungPeriodenzinsen, &rechnungDatum,       &rechnungZahlformat,   &rechnungZahlungsreihe,
+    &rechnungZinstermine,    &rechnungWertanalyse, &rechnungTilgungsplan, &rechnungSensitivitaet,
+    &rechnungJahreswerte,
 };
 
 }  // namespace zinfolio

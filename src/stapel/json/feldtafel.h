@@ -68,8 +68,10 @@ struct Glied<Wert_ Klasse_::*> {
 template <auto glied>
 using KlasseVon = typename Glied<decltype(glied)>::Klasse;
 
+// static: two kinds of jobs may give their types in unnamed namespaces the same name, and GCC 12 would take
+// the functions for one and the same.
 template <auto glied>
-void GliedLesen(JsonWert& wert, void* ziel) {
+static void GliedLesen(JsonWert& wert, void* ziel) {
     FeldLesen(wert, static_cast<KlasseVon<glied>*>(ziel)->*glied);
 }
 

@@ -1,0 +1,44 @@
+#pragma once
+// What the jobs of the all-round calculator share.
+
+#include <stdexcept>
+#include <vector>
+
+#include "kern/allround/planzeilen.h"
+#include "kern/allround/wertanalyse.h"
+#include "kern/allround/zellentabelle.h"
+#include "kern/staffel/staffelsatz.h"
+#include "stapel/json/feldtafel.h"
+#include "stapel/json/jsonschreiber.h"
+
+namespace zinfolio {
+
+/// The list `Zahlungen` of a job in the order that the calculator's tabs bring it into.
+struct SortierteZahlungen {
+    std::vector<Staffelsatz> saetze;
+};
+
+/// Each throws an `Auftragsfehler`.
+void FeldLesen(JsonWert& wert, SortierteZahlungen& ziel);
+/// 1 or 2.
+void FeldLesen(JsonWert& wert, Wertart& ziel);
+/// List index.
+void FeldLesen(JsonWert& wert, Plantermine& ziel);
+
+/// Throws a `Rechenfehler` for more payments than a file holds.
+void LaengePruefen(const SortierteZahlungen& zahlungen);
+
+/// Appends the cells of a table as a field: a list of rows, each a list of texts.
+void TabelleSchreiben(std::string_view name, const Zellentabelle& tabelle, JsonSchreiber& ergebnis);
+
+/// Calculates where the form says nothing about a fault: it becomes a refusal without words.
+template <typename Rechenweg>
+std::optional<Ablehnung> StillRechnen(Rechenweg rechenweg) {
+    try {
+        return rechenweg();
+    } catch (const std::runtime_error&) {
+        return Ablehnung{};
+    }
+}
+
+}  // namespace zinfolio

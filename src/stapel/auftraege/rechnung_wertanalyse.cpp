@@ -1,0 +1,42 @@
+#include <string>
+
+#include "kern/allround/wertanalyse.h"
+#include "stapel/auftraege/allroundfelder.h"
+#include "stapel/auftraege/rechnungen.h"
+
+namespace zinfolio {
+namespace {
+
+struct Wertauftrag {
+    SortierteZahlungen Zahlungen;
+    Wertart Anzeigeart{};
+    std::string Abzins2;
+    std::string BarwDatum;
+};
+
+constexpr auto felder = Auftragsfelder(
+    Pflichtfeld<&Wertauftrag::Zahlungen>("Zahlungen"), Pflichtfeld<&Wertauftrag::Anzeigeart>("Anzeigeart"),
+    Pflichtfeld<&Wertauftrag::Abzins2>("Abzins2"), Pflichtfeld<&Wertauftrag::BarwDatum>("BarwDatum"));
+
+std::optional<Ablehnung> Rechne(const Wertauftrag& auftrag, JsonSchreiber& ergebnis) {
+    LaengePruefen(auftrag.Zahlungen);
+    Werteingabe eingabe{auftrag.Anzeigeart, auftrag.Abzins2, auftrag.BarwDatum};
+    Wertergebnis werte;
+    if (auto ablehnung = WertAnalyse(auftrag.Zahlungen.saetze, eingabe, werte)) return ablehnung;
+    TabelleSchreiben("Zeilen", werte.Tabelle, ergebnis);
+    ergebnis.Feld("StatAmor", werte.Aussagen->StatAmor);
+    ergebnis.Feld("DynAmor", werte.Aussagen->DynAmor);
+    ergebnis.Feld("Dynamorinterpoliert", werte.Dynamorinterpoliert.value_or(""));
+    ergebnis.Feld("Label12", werte.Aussagen->Label12);
+    ergebnis.Feld("Label13", werte.Aussagen->Label13);
+    ergebnis.Feld("Label14", werte.Aussagen->Label14);
+    ergebnis.Feld("Frame1", werte.Frame1);
+    ergebnis.Feld("Farbzeile", werte.Farbzeile);
+    return std::nullopt;
+}
+
+}  // namespace
+
+constexpr Rechnungsart rechnungWertanalyse = Auftragsart<felder, Rechne>("wertanalyse");
+
+}  // namespace zinfolio
