@@ -12,6 +12,8 @@
 #include "fenster/hilfe/handbuchseite.h"
 #include "fenster/hilfe/hilfefenster.h"
 #include "fenster/hilfe/hilfetaste.h"
+#include "fenster/ui/deutsch.h"
+#include "fenster/ui/entertaste.h"
 
 using namespace zinfolio;
 

@@ -8,6 +8,8 @@
 
 #include "fenster/formhelfer.h"
 #include "fenster/hilfe/versionsdatei.h"
+#include "fenster/ui/deutsch.h"
+#include "fenster/ui/entertaste.h"
 
 using namespace zinfolio;
 

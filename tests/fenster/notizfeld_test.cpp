@@ -16,6 +16,7 @@
 
 #include "fenster/formhelfer.h"
 #include "fenster/ui/richtextdokument.h"
+#include "kern/richtext/notiz.h"
 #include "kern/richtext/rtflesen.h"
 #include "kern/richtext/rtfschreiben.h"
 #include "kern/richtext/zufallstext.h"
@@ -244,7 +245,6 @@ class NotizfeldTest : public QObject {
     void geaendertMeldetNurDenBenutzer() {
         const QSignalSpy spion(feld_, &Notizfeld::geaendert);
         feld_->Zeigen(RtfLesen("{\\rtf1\\fs40 ab}"));
-        feld_->GrundschriftSetzen();
         feld_->Leeren();
         QCOMPARE(spion.count(), 0);
         Tippe("a");
@@ -268,8 +268,8 @@ class NotizfeldTest : public QObject {
     }
 
     void grundschriftLaesstFettKursivUnterstrichen() {
-        feld_->Zeigen(RtfLesen("{\\rtf1{\\fonttbl{\\f0 Arial;}}\\fs40 a{\\b b}{\\i c}{\\ul d}\\par\\qc e}"));
-        feld_->GrundschriftSetzen();
+        feld_->Zeigen(InGrundschrift(
+            RtfLesen("{\\rtf1{\\fonttbl{\\f0 Arial;}}\\fs40 a{\\b b}{\\i c}{\\ul d}\\par\\qc e}")));
         QCOMPARE(Datei(), Kopf() + "a\\b b\\b0\\i c\\i0\\ul d\\par\r\n\\pard\\qc\\ulnone e\\par\r\n}\r\n");
     }
 

@@ -25,11 +25,20 @@ class RegisterNotizen : public Notizfeld {
     /// The notes as a file. Asked again without a change between, it is the same.
     [[nodiscard]] std::string AlsDatei();
 
+  signals:
+    /// The user has changed the notes. The first change of a note with parts that it would lose is asked
+    /// about, and taken back where the user does not want it.
+    void inhaltGeaendert();
+
   private:
     void Merken(std::string datei);
+    void Aendern();
+    [[nodiscard]] bool VerlustGewollt();
 
     /// The file that the field shows, until the user changes something.
     std::optional<std::string> datei_;
+    /// Whether a change would lose parts of the file, and nobody has asked yet.
+    bool fremdeTeile_ = false;
 };
 
 }  // namespace zinfolio

@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QComboBox>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QLocale>
 #include <QSignalBlocker>
 #include <QToolButton>
@@ -11,11 +12,15 @@
 #include "fenster/ui/richtextfeld.h"
 #include "fenster/ui/richtextformate.h"
 #include "fenster/ui/symbol.h"
+#include "kern/richtext/notiz.h"
 
 namespace zinfolio {
 namespace {
 
 constexpr std::array<int, 14> groessen{8, 9, 10, 11, 12, 14, 16, 18, 20, 24, 28, 36, 48, 72};
+
+/// What is shown of a larger note.
+constexpr Richtextmass gezeigterAnfang{.zeichen = 100'000, .absaetze = 2'000};
 
 QString Groessentext(double punkte) {
     return QLocale(QLocale::German).toString(punkte, 'f', QLocale::FloatingPointShortest);
@@ -32,7 +37,7 @@ QToolButton* NeuesWerkzeug(QAction* aktion, QWidget* eltern) {
 }  // namespace
 
 Notizfeld::Notizfeld(const QString& name, QWidget* eltern)
-    : QWidget(eltern), text_(new Richtextfeld), groesse_(new QComboBox) {
+    : QWidget(eltern), text_(new Richtextfeld), groesse_(new QComboBox), kuerzung_(new QLabel) {
     text_->setObjectName(name);
     text_->setAccessibleName("Notizen");
     text_->setFont(QFont(QString::fromUtf8(grundschrift.data(), grundschrift.size()), grundgroesse / 2));
@@ -83,6 +88,12 @@ void Notizfeld::WerkzeugeAnordnen() {
     for (QAction* aktion : {rueckgaengig_, wiederholen_})
         zeile->addWidget(NeuesWerkzeug(aktion, this));
     zeile->addStretch();
+    kuerzung_->setObjectName("Kürzung");
+    kuerzung_->setWordWrap(true);
+    kuerzung_->setText(
+        "Diese Notiz ist zu groß, um hier geändert zu werden. Gezeigt wird ihr Anfang; gespeichert wird sie, "
+        "wie sie war.");
+    anordnung->addWidget(kuerzung_);
     anordnung->addWidget(text_, 1);
 }
 
@@ -112,29 +123,28 @@ void Notizfeld::Verbinden() {
 }
 
 void Notizfeld::Zeigen(const Richtext& text) {
+    gekuerzt_ = !PasstIn(Mass(text), hoechsteNotiz);
     {
         const QSignalBlocker stumm(text_);
-        RichtextInDokument(text, *text_->document());
+        RichtextInDokument(gekuerzt_ ? Anfang(text, gezeigterAnfang) : text, *text_->document());
         text_->moveCursor(QTextCursor::Start);
     }
+    AenderbarSetzen(!gekuerzt_);
     rueckgaengig_->setEnabled(false);
     wiederholen_->setEnabled(false);
     WerkzeugeZeigen(text_->currentCharFormat());
 }
 
-Richtext Notizfeld::Lesen() const {
-    return RichtextAusDokument(*text_->document());
+void Notizfeld::AenderbarSetzen(bool aenderbar) {
+    text_->setReadOnly(!aenderbar);
+    groesse_->setEnabled(aenderbar);
+    for (QAction* aktion : {fett_, kursiv_, unterstrichen_})
+        aktion->setEnabled(aenderbar);
+    kuerzung_->setVisible(!aenderbar);
 }
 
-void Notizfeld::GrundschriftSetzen() {
-    Richtext text = Lesen();
-    for (Absatz& absatz : text.absaetze) {
-        for (Lauf& lauf : absatz.laeufe) {
-            lauf.format.schrift = grundschrift;
-            lauf.format.groesse = grundgroesse;
-        }
-    }
-    Zeigen(text);
+Richtext Notizfeld::Lesen() const {
+    return RichtextAusDokument(*text_->document());
 }
 
 void Notizfeld::GroesseSetzen() {

@@ -6,6 +6,7 @@
 
 class QAction;
 class QComboBox;
+class QLabel;
 class QTextCharFormat;
 
 namespace zinfolio {
@@ -20,13 +21,15 @@ class Notizfeld : public QWidget {
   public:
     explicit Notizfeld(const QString& name, QWidget* eltern = nullptr);
 
-    /// Shows a document. What was there is gone, and cannot be undone back.
+    /// Shows a document. What was there is gone, and cannot be undone back. One that is larger than a note
+    /// may be is shown in part, cannot be changed, and a line above it says so.
     void Zeigen(const Richtext& text);
+
+    /// Whether the field shows less than it was given.
+    [[nodiscard]] bool Gekuerzt() const { return gekuerzt_; }
+
     [[nodiscard]] Richtext Lesen() const;
     void Leeren() { Zeigen({}); }
-
-    /// Sets the whole text to `grundschrift` in `grundgroesse`; bold, italic, underlined and all else stays.
-    void GrundschriftSetzen();
 
   signals:
     /// The user has changed text or format. What the program shows is no change.
@@ -39,6 +42,7 @@ class Notizfeld : public QWidget {
     void Verbinden();
     void GroesseSetzen();
     void Anwenden(const QTextCharFormat& aenderung);
+    void AenderbarSetzen(bool aenderbar);
     void WerkzeugeZeigen(const QTextCharFormat& format);
     void GroesseZeigen(double punkte);
 
@@ -49,6 +53,8 @@ class Notizfeld : public QWidget {
     QAction* unterstrichen_ = nullptr;
     QAction* rueckgaengig_ = nullptr;
     QAction* wiederholen_ = nullptr;
+    QLabel* kuerzung_;
+    bool gekuerzt_ = false;
 };
 
 }  // namespace zinfolio

@@ -4,12 +4,29 @@
 #include <QTextDocument>
 #include <QTextDocumentFragment>
 #include <QTextList>
+#include <iterator>
 #include <utility>
 
 #include "fenster/ui/richtextformate.h"
 
 namespace zinfolio {
 namespace {
+
+/// Marks a block that goes on with the paragraph of the block before it.
+constexpr int fortsetzung = QTextFormat::UserProperty + 1;
+
+/// The toolkit lays out a block as a whole, in time that grows with the square of its length: a longer
+/// paragraph is cut into blocks of about so many characters, behind a blank where there is one.
+constexpr qsizetype hoechsteBlocklaenge = 2000;
+constexpr qsizetype kuerzesteBlocklaenge = 1500;
+
+/// How much of a text goes into a block that has room for `platz` characters.
+qsizetype Blockende(QStringView text, qsizetype platz) {
+    if (text.size() <= platz) return text.size();
+    const qsizetype leerzeichen = text.lastIndexOf(' ', platz - 1);
+    if (leerzeichen >= kuerzesteBlocklaenge) return leerzeichen + 1;
+    return text.at(platz - 1).isHighSurrogate() ? platz - 1 : platz;
+}
 
 /// Writes paragraphs one behind the other and gathers the items of each list.
 class Absatzschreiber {
@@ -32,8 +49,8 @@ class Absatzschreiber {
         if (!absatz.laeufe.empty()) marke_ = NachQt(absatz.laeufe.back().format);
         if (stelle_.block().length() == 1) stelle_.setBlockCharFormat(marke_);
         for (const Lauf& lauf : absatz.laeufe)
-            stelle_.insertText(QString::fromStdString(lauf.text).replace('\n', QChar::LineSeparator),
-                               NachQt(lauf.format));
+            LaufSchreiben(QString::fromStdString(lauf.text).replace('\n', QChar::LineSeparator),
+                          NachQt(lauf.format));
     }
 
     void NeuerAbsatz() {
@@ -43,6 +60,25 @@ class Absatzschreiber {
     }
 
   private:
+    void LaufSchreiben(const QString& text, const QTextCharFormat& format) {
+        for (QStringView rest = text; !rest.isEmpty();) {
+            const qsizetype platz = hoechsteBlocklaenge - stelle_.positionInBlock();
+            const qsizetype ende = platz > 1 ? Blockende(rest, platz) : 0;
+            stelle_.insertText(rest.first(ende).toString(), format);
+            rest = rest.sliced(ende);
+            if (!rest.isEmpty()) FortsetzungBeginnen(format);
+        }
+    }
+
+    void FortsetzungBeginnen(const QTextCharFormat& format) {
+        QTextBlockFormat weiter = stelle_.blockFormat();
+        weiter.setProperty(fortsetzung, true);
+        weiter.setObjectIndex(-1);
+        weiter.setTextIndent(0);
+        weiter.setTopMargin(0);
+        stelle_.insertBlock(weiter, format);
+    }
+
     QTextCursor& stelle_;
     QTextCharFormat marke_ = NachQt(Zeichenformat{});
     QTextList* liste_ = nullptr;
@@ -61,6 +97,12 @@ std::vector<Lauf> LaeufeAus(const QTextBlock& block) {
 }
 
 }  // namespace
+
+QTextBlockFormat AlsNeuerAbsatz(QTextBlockFormat format) {
+    format.clearProperty(fortsetzung);
+    format.clearProperty(QTextFormat::PageBreakPolicy);
+    return format;
+}
 
 void RichtextInDokument(const Richtext& text, QTextDocument& dokument) {
     dokument.setUndoRedoEnabled(false);
@@ -97,9 +139,12 @@ void RichtextEinfuegen(const Richtext& text, QTextCursor& stelle) {
 Richtext RichtextAusDokument(const QTextDocument& dokument) {
     Richtext text{.absaetze = {}};
     for (QTextBlock block = dokument.begin(); block.isValid(); block = block.next()) {
-        Absatz& absatz = text.absaetze.emplace_back();
-        absatz.format = AbsatzformatAus(block);
-        absatz.laeufe = LaeufeAus(block);
+        std::vector<Lauf> laeufe = LaeufeAus(block);
+        if (!block.blockFormat().boolProperty(fortsetzung) || text.absaetze.empty())
+            text.absaetze.push_back({.format = AbsatzformatAus(block), .laeufe = {}});
+        std::vector<Lauf>& ziel = text.absaetze.back().laeufe;
+        ziel.insert(ziel.end(), std::make_move_iterator(laeufe.begin()),
+                    std::make_move_iterator(laeufe.end()));
     }
     return Normalform(std::move(text));
 }

@@ -1,6 +1,7 @@
 #include "fenster/ui/richtextfeld.h"
 
 #include <QKeyEvent>
+#include <QLocale>
 #include <QMimeData>
 #include <QTextBlock>
 #include <QTextDocument>
@@ -9,7 +10,9 @@
 #include <array>
 #include <optional>
 
+#include "fenster/ui/meldungsfenster.h"
 #include "fenster/ui/richtextdokument.h"
+#include "fenster/ui/richtextformate.h"
 #include "kern/richtext/rtflesen.h"
 #include "kern/richtext/rtfschreiben.h"
 
@@ -32,11 +35,42 @@ Richtext AusHtml(const QString& html, const QFont& schrift) {
     return RichtextAusDokument(dokument);
 }
 
-std::optional<Richtext> AusZwischenablage(const QMimeData& quelle, const QFont& schrift) {
-    for (const char* name : rtfnamen)
-        if (quelle.hasFormat(name)) return RtfLesen(quelle.data(name).toStdString());
-    if (quelle.hasHtml()) return AusHtml(quelle.html(), schrift);
+/// Formatted text takes a few times the room of its characters. A longer one is not looked at.
+constexpr qsizetype hoechsteQuelle = 16 * static_cast<qsizetype>(hoechsteNotiz.zeichen);
+
+Richtext AusText(const QString& text, const Zeichenformat& format) {
+    Richtext schlicht{.absaetze = {}};
+    for (const QStringView zeile : QStringView(text).split(u'\n')) {
+        schlicht.absaetze.emplace_back();
+        if (!zeile.isEmpty())
+            schlicht.absaetze.back().laeufe.push_back({zeile.toUtf8().toStdString(), format});
+    }
+    return Normalform(std::move(schlicht));
+}
+
+/// The text that a source offers, in the richest form that we read; nothing where it is far too long.
+std::optional<Richtext> AusQuelle(const QMimeData& quelle, const QFont& schrift,
+                                  const Zeichenformat& format) {
+    for (const char* name : rtfnamen) {
+        if (!quelle.hasFormat(name)) continue;
+        const QByteArray rtf = quelle.data(name);
+        if (rtf.size() <= hoechsteQuelle) return RtfLesen(rtf.toStdString());
+    }
+    if (quelle.hasHtml() && quelle.html().size() <= hoechsteQuelle) return AusHtml(quelle.html(), schrift);
+    const QString text = quelle.text();
+    if (text.size() <= hoechsteQuelle) return AusText(text, format);
     return {};
+}
+
+/// What a key adds.
+Richtextmass Anschlag(const QKeyEvent& taste) {
+    return {.zeichen = 1, .absaetze = taste.matches(QKeySequence::InsertParagraphSeparator) ? 2U : 1U};
+}
+
+/// Whether a key puts text into the field.
+bool SchreibtText(const QKeyEvent& taste) {
+    return !taste.text().isEmpty() &&
+           (taste.text().at(0).isPrint() || taste.matches(QKeySequence::InsertParagraphSeparator));
 }
 
 }  // namespace
@@ -50,6 +84,7 @@ void Richtextfeld::keyPressEvent(QKeyEvent* ereignis) {
     const bool zurueck = ereignis->key() == Qt::Key_Backtab;
     const bool weiter = ereignis->key() == Qt::Key_Tab && ereignis->modifiers().testFlag(Qt::ControlModifier);
     if ((weiter || zurueck) && Verlassen(weiter)) return;
+    if (SchreibtText(*ereignis) && !textCursor().hasSelection() && !HatPlatz(Anschlag(*ereignis))) return;
     const bool leererListenpunkt = textCursor().currentList() && textCursor().block().length() == 1;
     if (ereignis->matches(QKeySequence::InsertParagraphSeparator) && !leererListenpunkt)
         AbsatzBeginnen();
@@ -67,9 +102,7 @@ bool Richtextfeld::Verlassen(bool weiter) {
 
 void Richtextfeld::AbsatzBeginnen() {
     QTextCursor stelle = textCursor();
-    QTextBlockFormat format = stelle.blockFormat();
-    format.clearProperty(QTextFormat::PageBreakPolicy);
-    stelle.insertBlock(format, stelle.charFormat());
+    stelle.insertBlock(AlsNeuerAbsatz(stelle.blockFormat()), stelle.charFormat());
     setTextCursor(stelle);
     ensureCursorVisible();
 }
@@ -87,14 +120,32 @@ bool Richtextfeld::canInsertFromMimeData(const QMimeData* quelle) const {
 }
 
 void Richtextfeld::insertFromMimeData(const QMimeData* quelle) {
-    const auto text = AusZwischenablage(*quelle, document()->defaultFont());
     QTextCursor stelle = textCursor();
-    if (text)
-        RichtextEinfuegen(*text, stelle);
-    else
-        stelle.insertText(quelle->text());
+    const QFont schrift = document()->defaultFont();
+    const auto text = AusQuelle(*quelle, schrift, ZeichenformatAus(stelle.charFormat(), schrift));
+    if (!HatPlatz(text ? Mass(*text) : Richtextmass{.zeichen = hoechsteNotiz.zeichen + 1, .absaetze = 0}))
+        return;
+    RichtextEinfuegen(*text, stelle);
     setTextCursor(stelle);
     ensureCursorVisible();
+}
+
+bool Richtextfeld::HatPlatz(const Richtextmass& dazu) {
+    const auto vorhanden =
+        static_cast<std::size_t>(document()->characterCount() - textCursor().selectedText().size());
+    const Richtextmass danach{
+        .zeichen = vorhanden + dazu.zeichen,
+        .absaetze = static_cast<std::size_t>(document()->blockCount()) + dazu.absaetze - 1};
+    if (PasstIn(danach, hoechsteNotiz)) return true;
+    MeldungZeigen(
+        window(),
+        {.text =
+             QString(
+                 "So viel Text passt nicht in die Notizen. Sie fassen %1 Zeichen und %2 Absätze. Der Text "
+                 "bleibt, wie er war.")
+                 .arg(QLocale(QLocale::German).toString(qulonglong(hoechsteNotiz.zeichen)),
+                      QLocale(QLocale::German).toString(qulonglong(hoechsteNotiz.absaetze)))});
+    return false;
 }
 
 }  // namespace zinfolio

@@ -2,11 +2,15 @@
 
 #include <QTextEdit>
 
+#include "kern/richtext/notiz.h"
+
 namespace zinfolio {
 
 /// An entry field for rich text of many lines. Enter makes a paragraph and Tab a tab; Ctrl+Tab and Shift+Tab
 /// leave the field. What comes from other programs, by the clipboard or by dragging, comes as far as the
-/// program's rich text has a place for it; pictures and whatever lies elsewhere are never loaded.
+/// program's rich text has a place for it; pictures and whatever lies elsewhere are never loaded. It takes as
+/// much as a note may hold
+/// (`hoechsteNotiz`); what would be more is refused with a message, and the text stays as it was.
 class Richtextfeld : public QTextEdit {
     Q_OBJECT
 
@@ -23,6 +27,8 @@ class Richtextfeld : public QTextEdit {
 
   private:
     bool Verlassen(bool weiter);
+    /// Whether so much more text fits; says so where it does not.
+    [[nodiscard]] bool HatPlatz(const Richtextmass& dazu);
     /// Enter, with the formats going on. The toolkit would take the formats of an empty paragraph away
     /// instead of beginning another; that is kept for an empty item of a list, which ends the list.
     void AbsatzBeginnen();
