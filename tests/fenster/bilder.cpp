@@ -162,7 +162,7 @@ int main(int argc, char** argv) {
     qputenv("XDG_CONFIG_HOME", konfiguration.path().toUtf8());
     DeutscheTexteLaden(programm);
     UhrStellen(*Datum::Aus(2026, 1, 5));
-    MeldungenUmleiten([](Meldungsart, const Meldungsinhalt&) { return Antwort::ja; });
+    MeldungenUmleiten([](const Meldung&) { return Antwort::ja; });
     Form1 start(konfiguration.path().toStdString());
     Zeige(start);
     Bild(start, ordner, "startbild");

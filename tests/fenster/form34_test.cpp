@@ -246,16 +246,11 @@ class Form34Test : public QObject {
         Oeffne();
         QApplication::clipboard()->setText("vorher");
         QString beiDerMeldung;
-        QStringList texte;
-        const auto vorher = MeldungenUmleiten([&](Meldungsart, const Meldungsinhalt& inhalt) {
-            texte << inhalt.text;
-            beiDerMeldung = QApplication::clipboard()->text();
-            return Antwort::ja;
-        });
+        Zeuge zeuge;
+        zeuge.dabei = [&](const Meldung&) { beiDerMeldung = QApplication::clipboard()->text(); };
         Klicke("Zwischenablage");
-        MeldungenUmleiten(vorher);
         QCOMPARE(
-            texte,
+            zeuge.texte,
             QStringList{
                 "Sofern Sie über Word verfügen, können Sie über die Auswahl <Word> die Ergebnisse direkt in "
                 "Word überleiten. Sofern Sie nicht über Word verfügen: Rufen Sie Ihre Textverarbeitung auf "

@@ -3,22 +3,41 @@
 #include <QCalendarWidget>
 #include <QComboBox>
 #include <QDialog>
+#include <QEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+#include "fenster/ui/geschuetzt.h"
 #include "fenster/ui/meldungsfenster.h"
 #include "fenster/ui/symbol.h"
 #include "fenster/ui/uhr.h"
 
 namespace zinfolio {
+namespace {
+
+/// Keeps the wheel from a control that does not have the focus; what lies below scrolls then.
+class Radwaechter : public QObject {
+  public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* ziel, QEvent* ereignis) override {
+        const auto* element = qobject_cast<QWidget*>(ziel);
+        if (ereignis->type() != QEvent::Wheel || !element || element->hasFocus()) return false;
+        ereignis->ignore();
+        return true;
+    }
+};
+
+}  // namespace
 
 QPushButton* NeueTaste(const char* name, const QString& beschriftung, QWidget* eltern,
                        const std::function<void()>& wirkung) {
     auto* taste = new QPushButton(beschriftung, eltern);
     taste->setObjectName(QString::fromUtf8(name));
-    QObject::connect(taste, &QPushButton::clicked, eltern, wirkung);
+    QObject::connect(taste, &QPushButton::clicked, eltern,
+                     [eltern, wirkung] { Geschuetzt(eltern, wirkung); });
     return taste;
 }
 
@@ -27,6 +46,8 @@ QComboBox* NeueAuswahl(const char* name, std::span<const std::string_view> texte
     auswahl->setObjectName(QString::fromUtf8(name));
     for (const std::string_view text : texte)
         auswahl->addItem(Anzeigetext(text));
+    auswahl->setFocusPolicy(Qt::StrongFocus);
+    auswahl->installEventFilter(new Radwaechter(auswahl));
     return auswahl;
 }
 

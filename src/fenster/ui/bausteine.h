@@ -19,11 +19,11 @@ class QWidget;
 
 namespace zinfolio {
 
-/// A button with its fixed name, bound once to what it does.
+/// A button with its fixed name, bound once to what it does, which runs in the trap of `Geschuetzt`.
 [[nodiscard]] QPushButton* NeueTaste(const char* name, const QString& beschriftung, QWidget* eltern,
                                      const std::function<void()>& wirkung);
 
-/// A list to choose from, with the texts of the core.
+/// A list to choose from, with the texts of the core. The wheel changes it only where it has the focus.
 [[nodiscard]] QComboBox* NeueAuswahl(const char* name, std::span<const std::string_view> texte,
                                      QWidget* eltern);
 

@@ -29,18 +29,29 @@ struct Tasten {
     QMessageBox::StandardButton schliessen;
 };
 
-constexpr Tasten hinweistasten{QMessageBox::Ok, QMessageBox::Ok};
-constexpr Tasten bestaetigungstasten{QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel};
-constexpr Tasten fragetasten{QMessageBox::Yes | QMessageBox::No, QMessageBox::No};
-constexpr Tasten abbruchtasten{QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Cancel};
+Tasten TastenAus(Meldungstasten tasten) {
+    switch (tasten) {
+        case Meldungstasten::okAbbrechen:
+            return {QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel};
+        case Meldungstasten::jaNein:
+            return {QMessageBox::Yes | QMessageBox::No, QMessageBox::No};
+        case Meldungstasten::jaNeinAbbrechen:
+            return {QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Cancel};
+        case Meldungstasten::ok:
+            break;
+    }
+    return {QMessageBox::Ok, QMessageBox::Ok};
+}
 
 Antwort AntwortAus(int taste) {
     if (taste == QMessageBox::Yes || taste == QMessageBox::Ok) return Antwort::ja;
     return taste == QMessageBox::Cancel ? Antwort::abbrechen : Antwort::nein;
 }
 
-Antwort Zeigen(QWidget* fenster, Meldungsart art, const Meldungsinhalt& inhalt, const Tasten& tasten) {
-    if (Zeuge()) return Zeuge()(art, inhalt);
+Antwort Zeigen(QWidget* fenster, const Meldung& meldung) {
+    if (Zeuge()) return Zeuge()(meldung);
+    const auto& [inhalt, art, tastenart] = meldung;
+    const Tasten tasten = TastenAus(tastenart);
     QMessageBox box(Zeichen(art), inhalt.titel, inhalt.text, tasten.alle, fenster);
     box.setTextFormat(Qt::PlainText);
     box.setEscapeButton(tasten.schliessen);
@@ -51,19 +62,19 @@ Antwort Zeigen(QWidget* fenster, Meldungsart art, const Meldungsinhalt& inhalt, 
 }  // namespace
 
 void MeldungZeigen(QWidget* fenster, const Meldungsinhalt& inhalt, Meldungsart art) {
-    Zeigen(fenster, art, inhalt, hinweistasten);
+    Zeigen(fenster, {inhalt, art, Meldungstasten::ok});
 }
 
 bool Fragen(QWidget* fenster, const Meldungsinhalt& inhalt) {
-    return Zeigen(fenster, Meldungsart::frage, inhalt, fragetasten) == Antwort::ja;
+    return Zeigen(fenster, {inhalt, Meldungsart::frage, Meldungstasten::jaNein}) == Antwort::ja;
 }
 
 bool Bestaetigen(QWidget* fenster, const Meldungsinhalt& inhalt) {
-    return Zeigen(fenster, Meldungsart::warnung, inhalt, bestaetigungstasten) == Antwort::ja;
+    return Zeigen(fenster, {inhalt, Meldungsart::warnung, Meldungstasten::okAbbrechen}) == Antwort::ja;
 }
 
 Antwort FragenMitAbbruch(QWidget* fenster, const Meldungsinhalt& inhalt) {
-    return Zeigen(fenster, Meldungsart::frage, inhalt, abbruchtasten);
+    return Zeigen(fenster, {inhalt, Meldungsart::frage, Meldungstasten::jaNeinAbbrechen});
 }
 
 Meldungszeuge MeldungenUmleiten(Meldungszeuge zeuge) {

@@ -9,7 +9,7 @@ class QWidget;
 
 namespace zinfolio {
 
-/// A box as the user meets it. Titles and texts are part of what the program promises.
+/// What a box says. Titles and texts are part of what the program promises.
 struct Meldungsinhalt {
     QString text = {};
     QString titel = "OK";
@@ -17,7 +17,18 @@ struct Meldungsinhalt {
     QString einzelheiten = {};
 };
 
+/// The icon of a box.
 enum class Meldungsart { hinweis, warnung, frage };
+
+/// The buttons of a box.
+enum class Meldungstasten { ok, okAbbrechen, jaNein, jaNeinAbbrechen };
+
+/// A box as a whole.
+struct Meldung {
+    Meldungsinhalt inhalt;
+    Meldungsart art = Meldungsart::warnung;
+    Meldungstasten tasten = Meldungstasten::ok;
+};
 
 enum class Antwort { ja, nein, abbrechen };
 
@@ -34,7 +45,7 @@ void MeldungZeigen(QWidget* fenster, const Meldungsinhalt& inhalt, Meldungsart a
 [[nodiscard]] Antwort FragenMitAbbruch(QWidget* fenster, const Meldungsinhalt& inhalt);
 
 /// What stands in for the user: is given each box and answers it.
-using Meldungszeuge = std::function<Antwort(Meldungsart, const Meldungsinhalt&)>;
+using Meldungszeuge = std::function<Antwort(const Meldung&)>;
 
 /// Lets `zeuge` answer every box instead of showing it, for tests; an empty one shows them again. Gives who
 /// answered so far.
