@@ -25,8 +25,8 @@ class Ordnersperre {
     std::unique_ptr<QLockFile> sperre_;
 };
 
-/// True where leaving a calculator leads back to the start screen: the command line is empty or the program's
-/// old name.
+/// True where leaving a calculator leads back to the start screen: the command line is empty or names the
+/// program by its fixed name, "Zinfolio.exe".
 [[nodiscard]] bool KehrtZumStartZurueck(const QString& kommandozeile);
 
 }  // namespace zinfolio

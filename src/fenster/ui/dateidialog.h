@@ -16,7 +16,7 @@ struct Dateifrage {
 
     Zweck zweck = Zweck::speichern;
     QString titel;
-    /// As dialogs of old have it: "Zahlungsdateien (*.ZiS) |*.ZiS".
+    /// Name and pattern with a bar between: "Zahlungsdateien (*.ZiS) |*.ZiS".
     QString filter;
     /// The ending that a saved file has: "ZiS". A name without it gets it, also one that holds points.
     QString endung;

@@ -91,7 +91,7 @@ Projektpfade::Projektpfade(const fs::path& projektdatei) : projekt(projektdatei)
     const std::string stamm = Stamm(projektdatei);
     const fs::path ordner = projektdatei.parent_path();
     zahlungen = ordner / ("Zinsstaffel1" + stamm);
-    // Unlike the working file's name, with a small z: existing installations look for this one.
+    // With a small z, unlike the working file's name (wanted).
     konditionen = ordner / ("Zinsstaffelzins" + stamm);
     einstellungen = ordner / ("Zinsverrechnung" + stamm);
 }
