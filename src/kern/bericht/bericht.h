@@ -1,6 +1,7 @@
 #pragma once
 // A report as data: what every calculator hands to print preview, printer, PDF, RTF, HTML and clipboard.
 
+#include <algorithm>
 #include <cstddef>
 #include <functional>
 #include <string>
@@ -41,6 +42,12 @@ struct Berichtstabelle {
     /// owns what it reads.
     std::function<std::string(std::size_t zeile, std::size_t spalte)> zelle;
 };
+
+/// Whether the table's header row is shown; one of empty texts is not.
+[[nodiscard]] inline bool HatKopf(const Berichtstabelle& tabelle) {
+    return std::any_of(tabelle.spalten.begin(), tabelle.spalten.end(),
+                       [](const Berichtsspalte& spalte) { return !spalte.kopf.empty(); });
+}
 
 /// A report has two sections: head pages of text lines, and the table on pages of its own. Either may be
 /// empty.

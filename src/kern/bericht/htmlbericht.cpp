@@ -112,13 +112,16 @@ void Tabellenkopf(std::string& html, const Bericht& bericht) {
         HtmlTextAnhaengen(html, bericht.seitenzeile);
         html += "</th></tr>\n";
     }
-    html += "<tr>";
-    for (const Berichtsspalte& spalte : bericht.tabelle.spalten) {
-        html += Kopfzelle(spalte.kopfausrichtung);
-        HtmlTextAnhaengen(html, spalte.kopf);
-        html += "</th>";
+    if (HatKopf(bericht.tabelle)) {
+        html += "<tr>";
+        for (const Berichtsspalte& spalte : bericht.tabelle.spalten) {
+            html += Kopfzelle(spalte.kopfausrichtung);
+            HtmlTextAnhaengen(html, spalte.kopf);
+            html += "</th>";
+        }
+        html += "</tr>\n";
     }
-    html += "</tr>\n</thead>\n";
+    html += "</thead>\n";
 }
 
 /// False: cancelled.

@@ -119,6 +119,7 @@ std::string Tabellenkopf(const Bericht& bericht, const std::string& schrift, con
         rtf += "\\cell";
         Zeilenschluss(rtf);
     }
+    if (!HatKopf(bericht.tabelle)) return rtf;
     rtf += Zeilenanfang(kanten, merkmale, kopfrahmen) + schrift;
     for (const Berichtsspalte& spalte : bericht.tabelle.spalten) {
         rtf.append(Absatz(spalte.kopfausrichtung)).append(" ");

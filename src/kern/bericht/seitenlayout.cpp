@@ -105,7 +105,8 @@ void KopfLegen(Seitenlayout& layout, const Bericht& bericht, const Textmass& mas
             mass.InZeilen(bericht.tabelle.spalten[spalte].kopf, Zellplatz(layout, spalte)));
         zeilen = std::max(zeilen, layout.koepfe.back().size());
     }
-    layout.kopfhoehe = static_cast<int>(zeilen) * layout.kopfzeile + 4 * layout.zellabstand;
+    if (HatKopf(bericht.tabelle))
+        layout.kopfhoehe = static_cast<int>(zeilen) * layout.kopfzeile + 4 * layout.zellabstand;
 }
 
 /// The columns in which at least one cell is wider than its column.

@@ -76,6 +76,15 @@ TEST(HtmlBericht, DieSeitenzeileStehtImTabellenkopf) {
                           "<tr><th scope=\"col\">Datum"));
 }
 
+TEST(HtmlBericht, LeereKoepfeGebenKeineKopfzeile) {
+    Bericht bericht = KleinerBericht();
+    for (Berichtsspalte& spalte : bericht.tabelle.spalten)
+        spalte.kopf.clear();
+    const std::string html = HtmlBericht(bericht);
+    EXPECT_THAT(html, HasSubstr("<thead>\n</thead>\n"));
+    EXPECT_THAT(html, HasSubstr("<td>01.01.2007</td>"));
+}
+
 TEST(HtmlBericht, EineLeereErsteZeileBleibt) {
     Bericht bericht = KleinerBericht();
     bericht.kopfblock = {"", "x"};

@@ -59,6 +59,16 @@ TEST(RtfBericht, DieSeitenzeileStehtUeberDemKopfAufJederSeite) {
                                "\\ql\\f0\\fs20\\b Zeile \\{\\'fc\\}\\cell\\row\r\n"));
 }
 
+TEST(RtfBericht, LeereKoepfeGebenKeineKopfzeile) {
+    Bericht bericht = KleinerBericht();
+    for (Berichtsspalte& spalte : bericht.tabelle.spalten)
+        spalte.kopf.clear();
+    const std::string rtf = RtfBericht(bericht);
+    EXPECT_THAT(rtf, HasSubstr("{\\header\r\n\\pard\\plain\\fs2\\par}\r\n\\trowd"));
+    EXPECT_THAT(rtf, Not(HasSubstr("\\trhdr")));
+    EXPECT_THAT(rtf, HasSubstr("01.01.2007\\cell"));
+}
+
 TEST(RtfBericht, OhneKopfblockBeginntErMitDerTabelle) {
     Bericht bericht = KleinerBericht();
     bericht.kopfblock.clear();

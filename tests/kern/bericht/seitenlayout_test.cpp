@@ -164,6 +164,14 @@ TEST(Tabellenseiten, EineTabelleOhneZeilenZeigtIhrenKopf) {
     EXPECT_THAT(Layout(Tabellenbericht({1440}, 0)).seiten, ElementsAre(Berichtsseite{tabelle, 0, 0}));
 }
 
+TEST(Tabellenseiten, LeereKoepfeNehmenKeinenPlatz) {
+    Bericht bericht = Tabellenbericht({1440, 1440}, 1);
+    EXPECT_GT(Layout(bericht).kopfhoehe, 0);
+    for (Berichtsspalte& spalte : bericht.tabelle.spalten)
+        spalte.kopf.clear();
+    EXPECT_EQ(Layout(bericht).kopfhoehe, 0);
+}
+
 TEST(Tabellenseiten, DieSeitenzeileNimmtPlatz) {
     Bericht bericht = Tabellenbericht({1440}, 40);
     bericht.seitenzeile = "Herleitung";
