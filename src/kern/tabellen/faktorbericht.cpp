@@ -1,0 +1,82 @@
+#include "kern/tabellen/faktorbericht.h"
+
+#include <string_view>
+#include <utility>
+
+#include "kern/bericht/spaltenformat.h"
+#include "kern/bericht/textumbruch.h"
+
+namespace zinfolio {
+namespace {
+
+/// The width of the head block, and what a character of Arial 10 takes of it on average; both in twips.
+constexpr double kopfblockbreite = 5.8 * twipsJeZoll;
+constexpr double zeichenbreite = 100;
+constexpr std::size_t meisteKopfspalten = 6;
+constexpr std::string_view jahresspalte = "^+1.0in";
+constexpr std::string_view satzspalte = "|^1.6in";
+
+void TextAnfuegen(std::vector<std::string>& kopfblock, std::string_view text) {
+    const Textmass mass([](char32_t) { return zeichenbreite; });
+    for (std::string& zeile : mass.InZeilen(text, kopfblockbreite))
+        kopfblock.push_back(std::move(zeile));
+}
+
+std::string Zahlungsweise(const Faktorwahl& wahl) {
+    std::string zeile = "Zahlungsweise: ";
+    zeile.append(rentenrhythmen.at(static_cast<std::size_t>(wahl.rhythmus))).append(" ");
+    return zeile.append(rentenfaelligkeiten.at(static_cast<std::size_t>(wahl.faelligkeit)));
+}
+
+/// The cells of the top row, joined.
+std::string Kopftext(const Faktortabelle& tabelle) {
+    std::string kopf = tabelle.Zelle(0, 0) + " | ";
+    for (std::size_t spalte = 1; spalte < tabelle.Spalten(); ++spalte)
+        kopf.append(spalte > 1 ? " | " : "").append(tabelle.Zelle(0, spalte)).append(" %");
+    return kopf;
+}
+
+Berichtstabelle Tabelle(std::shared_ptr<const Faktortabelle> tabelle) {
+    const std::size_t spalten = tabelle->Spalten();
+    std::string format(jahresspalte);
+    for (std::size_t spalte = 1; spalte < spalten; ++spalte)
+        format.append(satzspalte);
+    const std::string kopf =
+        spalten <= meisteKopfspalten ? Kopftext(*tabelle) : std::string(spalten - 1, '|');
+    const std::size_t zeilen = tabelle->Zeilen() - 1;
+    return {.spalten = SpaltenformatLesen(format, kopf),
+            .zeilen = zeilen,
+            .zelle = [tabelle = std::move(tabelle)](std::size_t zeile, std::size_t spalte) {
+                return tabelle->Zelle(zeile + 1, spalte);
+            }};
+}
+
+}  // namespace
+
+Bericht FaktortabellenberichtBilden(const Faktorwahl& wahl, std::shared_ptr<const Faktortabelle> tabelle) {
+    const Finanzfaktortext& text = Faktortext(wahl.faktor);
+    Bericht bericht;
+    bericht.titel = text.eintrag;
+    bericht.kopfblockschrift = {.name = "Arial", .punkte = 10};
+    bericht.kopfblock = {std::string(text.eintrag), Zahlungsweise(wahl)};
+    TextAnfuegen(bericht.kopfblock, text.erklaerung);
+    if (tabelle && !tabelle->Leer()) bericht.tabelle = Tabelle(std::move(tabelle));
+    return bericht;
+}
+
+Bericht EinzelfaktorberichtBilden(const Einzelfaktoreingabe& eingabe, const Einzelfaktor& ergebnis) {
+    const Finanzfaktortext& text = Faktortext(eingabe.wahl.faktor);
+    Bericht bericht;
+    bericht.titel = text.eintrag;
+    bericht.kopfblockschrift = {.name = "Arial", .punkte = 10};
+    bericht.kopfblock = {std::string(text.eintrag), ""};
+    TextAnfuegen(bericht.kopfblock, text.erklaerung);
+    for (const std::string& zeile : {std::string(), "Zins  : " + eingabe.Zins2, "Jahre : " + eingabe.Jahre2,
+                                     "Betrag: " + eingabe.Betrag2, Zahlungsweise(eingabe.wahl), std::string(),
+                                     "Ergebnis: " + ergebnis.Ergebnis, std::string()})
+        bericht.kopfblock.push_back(zeile);
+    TextAnfuegen(bericht.kopfblock, ergebnis.Erklärung3);
+    return bericht;
+}
+
+}  // namespace zinfolio

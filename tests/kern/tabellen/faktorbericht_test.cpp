@@ -1,0 +1,89 @@
+#include "kern/tabellen/faktorbericht.h"
+
+#include <gtest/gtest.h>
+
+namespace zinfolio {
+namespace {
+
+using Zeilen = std::vector<std::string>;
+
+constexpr Faktorwahl wahl{Finanzfaktor::AbF, Rentenrhythmus::alle2Monate, Rentenfaelligkeit::vorschuessig};
+
+/// So many rates from 1 % on, over two years.
+Bericht Tabellenbericht(int saetze) {
+    auto tabelle = std::make_shared<Faktortabelle>();
+    const Faktortabelleneingabe eingabe{wahl, Schrittweite::halb, "1", "1", "1", "2"};
+    Faktortabelleneingabe weiter = eingabe;
+    weiter.Pro2 = std::to_string(10 + 5 * (saetze - 1));
+    weiter.Pro2.insert(weiter.Pro2.size() - 1, ",");
+    EXPECT_EQ(FaktortabelleRechnen(weiter, *tabelle), std::nullopt);
+    EXPECT_EQ(tabelle->Spalten(), static_cast<std::size_t>(saetze) + 1);
+    return FaktortabellenberichtBilden(wahl, tabelle);
+}
+
+Zeilen Koepfe(const Bericht& bericht) {
+    Zeilen koepfe;
+    for (const Berichtsspalte& spalte : bericht.tabelle.spalten)
+        koepfe.push_back(spalte.kopf);
+    return koepfe;
+}
+
+TEST(Faktortabellenbericht, DerKopfblockNenntFaktorZahlungsweiseUndErklaerung) {
+    const Bericht bericht = Tabellenbericht(1);
+    EXPECT_EQ(bericht.titel, "AbF Abzinsungsfaktor (Kapitalbarwert)");
+    EXPECT_EQ(bericht.kopfblock,
+              (Zeilen{"AbF Abzinsungsfaktor (Kapitalbarwert)", "Zahlungsweise: Alle 2 Monate vorschüssig",
+                      "Zinst einen nach n Perioden fälligen Geldbetrag K(n) unter Berücksichtigung von",
+                      "Zins und Zinseszins auf einen jetzt fälligen Geldbetrag K(0) ab."}));
+    EXPECT_EQ(bericht.kopfblockschrift, (Berichtsschrift{.name = "Arial", .punkte = 10}));
+}
+
+TEST(Faktortabellenbericht, DerTabellenkopfKommtAusDerErstenZeile) {
+    const Bericht bericht = Tabellenbericht(2);
+    EXPECT_EQ(Koepfe(bericht), (Zeilen{"Jahr / Zins ", " 1 % ", " 1,5 %"}));
+    EXPECT_EQ(bericht.tabelle.spalten[0].breite, 1440);
+    EXPECT_EQ(bericht.tabelle.spalten[2].breite, 2304);
+    EXPECT_EQ(bericht.tabelle.kopfschrift, (Berichtsschrift{.name = "Arial", .punkte = 10, .fett = true}));
+}
+
+TEST(Faktortabellenbericht, DieZellenSindDieDerTabelleOhneIhreKopfzeile) {
+    const Bericht bericht = Tabellenbericht(1);
+    ASSERT_EQ(bericht.tabelle.zeilen, 2U);
+    EXPECT_EQ(bericht.tabelle.zelle(0, 0), "1");
+    EXPECT_EQ(bericht.tabelle.zelle(0, 1), "0,9900990");
+    EXPECT_EQ(bericht.tabelle.zelle(1, 0), "2");
+    EXPECT_EQ(bericht.tabelle.zelle(1, 1), "0,9802960");
+}
+
+TEST(Faktortabellenbericht, BisSechsSpaltenHatSieEinenKopf) {
+    EXPECT_EQ(Koepfe(Tabellenbericht(5)),
+              (Zeilen{"Jahr / Zins ", " 1 % ", " 1,5 % ", " 2 % ", " 2,5 % ", " 3 %"}));
+}
+
+TEST(Faktortabellenbericht, MitMehrAlsSechsSpaltenHatSieKeinenKopf) {
+    const Bericht bericht = Tabellenbericht(6);
+    EXPECT_EQ(Koepfe(bericht), Zeilen(7, ""));
+    EXPECT_EQ(bericht.tabelle.zelle(0, 6), "0,9661836");
+}
+
+TEST(Faktortabellenbericht, OhneTabelleBleibtDerKopfblock) {
+    EXPECT_TRUE(FaktortabellenberichtBilden(wahl, nullptr).tabelle.spalten.empty());
+    EXPECT_TRUE(FaktortabellenberichtBilden(wahl, std::make_shared<Faktortabelle>()).tabelle.spalten.empty());
+}
+
+TEST(Einzelfaktorbericht, NenntEingabenErgebnisUndSatz) {
+    const Einzelfaktoreingabe eingabe{wahl, "4,5", "15", "12000"};
+    Einzelfaktor ergebnis;
+    ASSERT_EQ(EinzelfaktorRechnen(eingabe, ergebnis), std::nullopt);
+    EXPECT_EQ(EinzelfaktorberichtBilden(eingabe, ergebnis).kopfblock,
+              (Zeilen{"AbF Abzinsungsfaktor (Kapitalbarwert)", "",
+                      "Zinst einen nach n Perioden fälligen Geldbetrag K(n) unter Berücksichtigung von",
+                      "Zins und Zinseszins auf einen jetzt fälligen Geldbetrag K(0) ab.", "", "Zins  : 4,5",
+                      "Jahre : 15", "Betrag: 12000", "Zahlungsweise: Alle 2 Monate vorschüssig", "",
+                      "Ergebnis: 6.200,64530779", "",
+                      "Ein Betrag von 12000 € , der in 15 Jahren fällig wird, hat bei einem Zinssatz von",
+                      "4,5 % einen Wert am heutigen Tage von 6.200,65 €"}));
+}
+
+}  // namespace
+}  // namespace zinfolio
