@@ -75,6 +75,22 @@ void FeldLesen(JsonWert& wert, Abstandseinheit& ziel) {
     ziel = Listenindex<Abstandseinheit>(wert, abstandseinheiten.size());
 }
 
+void FeldLesen(JsonWert& wert, Finanzfaktor& ziel) {
+    ziel = Listenindex<Finanzfaktor>(wert, finanzfaktoren.size());
+}
+
+void FeldLesen(JsonWert& wert, Rentenrhythmus& ziel) {
+    ziel = Listenindex<Rentenrhythmus>(wert, rentenrhythmen.size());
+}
+
+void FeldLesen(JsonWert& wert, Rentenfaelligkeit& ziel) {
+    ziel = Listenindex<Rentenfaelligkeit>(wert, rentenfaelligkeiten.size());
+}
+
+void FeldLesen(JsonWert& wert, Schrittweite& ziel) {
+    ziel = Listenindex<Schrittweite>(wert, schrittweiten.size());
+}
+
 void FeldLesen(JsonWert& wert, Effektivmethode& ziel) {
     ziel = static_cast<Effektivmethode>(wert.Ganzzahl(1, static_cast<std::int64_t>(effektivmethoden.size())));
 }

@@ -10,6 +10,7 @@
 #include "kern/staffel/staffelsatz.h"
 #include "kern/staffel/zahlungseingabe.h"
 #include "kern/staffel/zinstermine.h"
+#include "kern/tabellen/faktortabelle.h"
 #include "stapel/json/feldtafel.h"
 
 namespace zinfolio {
@@ -18,6 +19,10 @@ namespace zinfolio {
 void FeldLesen(JsonWert& wert, Verzinsungsmethode& ziel);
 void FeldLesen(JsonWert& wert, Zinsverrechnungsart& ziel);
 void FeldLesen(JsonWert& wert, Abstandseinheit& ziel);
+void FeldLesen(JsonWert& wert, Finanzfaktor& ziel);
+void FeldLesen(JsonWert& wert, Rentenrhythmus& ziel);
+void FeldLesen(JsonWert& wert, Rentenfaelligkeit& ziel);
+void FeldLesen(JsonWert& wert, Schrittweite& ziel);
 /// The stored value, list index plus 1.
 void FeldLesen(JsonWert& wert, Effektivmethode& ziel);
 /// The caption of the button: "%" or "€".

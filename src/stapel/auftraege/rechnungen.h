@@ -33,7 +33,10 @@ template <const auto& felder, auto rechne>
 }
 
 extern const Rechnungsart rechnungDatum;
+extern const Rechnungsart rechnungFaktor;
+extern const Rechnungsart rechnungFaktortabelle;
 extern const Rechnungsart rechnungJahreswerte;
+extern const Rechnungsart rechnungKurz;
 extern const Rechnungsart rechnungPeriodenzinsen;
 extern const Rechnungsart rechnungReihe;
 extern const Rechnungsart rechnungReihenwert;
@@ -48,10 +51,10 @@ extern const Rechnungsart rechnungZinstermine;
 
 /// All kinds, the most frequent first.
 inline constexpr std::array rechnungsarten{
-    &rechnungStaffel,        &rechnungReihe,       &rechnungReihenwert,   &rechnungTage,
-    &rechnungPeriodenzinsen, &rechnungDatum,       &rechnungZahlformat,   &rechnungZahlungsreihe,
-    &rechnungZinstermine,    &rechnungWertanalyse, &rechnungTilgungsplan, &rechnungSensitivitaet,
-    &rechnungJahreswerte,
+    &rechnungStaffel,        &rechnungReihe,         &rechnungReihenwert,   &rechnungTage,
+    &rechnungPeriodenzinsen, &rechnungDatum,         &rechnungZahlformat,   &rechnungZahlungsreihe,
+    &rechnungZinstermine,    &rechnungWertanalyse,   &rechnungTilgungsplan, &rechnungSensitivitaet,
+    &rechnungJahreswerte,    &rechnungFaktortabelle, &rechnungFaktor,       &rechnungKurz,
 };
 
 }  // namespace zinfolio
