@@ -3,7 +3,7 @@
 #include <string_view>
 #include <utility>
 
-#include "kern/bericht/spaltenformat.h"
+#include "kern/bericht/tabelle.h"
 #include "kern/bericht/textumbruch.h"
 
 namespace zinfolio {
@@ -28,27 +28,16 @@ std::string Zahlungsweise(const Faktorwahl& wahl) {
     return zeile.append(rentenfaelligkeiten.at(static_cast<std::size_t>(wahl.faelligkeit)));
 }
 
-/// The cells of the top row, joined.
-std::string Kopftext(const Faktortabelle& tabelle) {
-    std::string kopf = tabelle.Zelle(0, 0) + " | ";
-    for (std::size_t spalte = 1; spalte < tabelle.Spalten(); ++spalte)
-        kopf.append(spalte > 1 ? " | " : "").append(tabelle.Zelle(0, spalte)).append(" %");
-    return kopf;
-}
-
 Berichtstabelle Tabelle(std::shared_ptr<const Faktortabelle> tabelle) {
     const std::size_t spalten = tabelle->Spalten();
     std::string format(jahresspalte);
     for (std::size_t spalte = 1; spalte < spalten; ++spalte)
         format.append(satzspalte);
-    const std::string kopf =
-        spalten <= meisteKopfspalten ? Kopftext(*tabelle) : std::string(spalten - 1, '|');
-    const std::size_t zeilen = tabelle->Zeilen() - 1;
-    return {.spalten = SpaltenformatLesen(format, kopf),
-            .zeilen = zeilen,
-            .zelle = [tabelle = std::move(tabelle)](std::size_t zeile, std::size_t spalte) {
-                return tabelle->Zelle(zeile + 1, spalte);
-            }};
+    Berichtstabelle bericht = BerichtstabelleBilden(FaktortabelleZeigen(std::move(tabelle)), format, 10);
+    if (spalten > meisteKopfspalten)
+        for (Berichtsspalte& spalte : bericht.spalten)
+            spalte.kopf.clear();
+    return bericht;
 }
 
 }  // namespace

@@ -56,10 +56,16 @@ std::vector<double> Achse(const Grenzen& grenzen, double schritt) {
 
 }  // namespace
 
+double Faktortabelle::Wert(std::size_t zeile, std::size_t spalte) const {
+    if (zeile == 0) return saetze_[spalte - 1];
+    if (spalte == 0) return jahre_[zeile - 1];
+    return werte_[(zeile - 1) * saetze_.size() + spalte - 1];
+}
+
 std::string Faktortabelle::Zelle(std::size_t zeile, std::size_t spalte) const {
-    if (zeile == 0) return spalte == 0 ? std::string(achsenkopf) : Zahltext(saetze_[spalte - 1]);
-    if (spalte == 0) return Zahltext(jahre_[zeile - 1]);
-    return Format(werte_[(zeile - 1) * saetze_.size() + spalte - 1], faktormuster);
+    if (zeile == 0 && spalte == 0) return std::string(achsenkopf);
+    const double wert = Wert(zeile, spalte);
+    return zeile == 0 || spalte == 0 ? Zahltext(wert) : Format(wert, faktormuster);
 }
 
 std::optional<Ablehnung> FaktortabelleRechnen(const Faktortabelleneingabe& eingabe, Faktortabelle& tabelle) {
@@ -78,6 +84,26 @@ std::optional<Ablehnung> FaktortabelleRechnen(const Faktortabelleneingabe& einga
             neu.werte_.push_back(Faktorwert(eingabe.wahl, satz, jahr));
     tabelle = std::move(neu);
     return std::nullopt;
+}
+
+Tabelleninhalt FaktortabelleZeigen(std::shared_ptr<const Faktortabelle> tabelle) {
+    Tabelleninhalt inhalt;
+    if (tabelle->Leer()) return inhalt;
+    for (std::size_t spalte = 0; spalte < tabelle->Spalten(); ++spalte) {
+        const std::string kopf = tabelle->Zelle(0, spalte);
+        const bool letzte = spalte + 1 == tabelle->Spalten();
+        // The header texts of a report stand between bars with a blank on each side.
+        const std::string berichtskopf = spalte == 0 ? kopf + " " : " " + kopf + (letzte ? " %" : " % ");
+        inhalt.spalten.push_back({.kopf = kopf, .berichtskopf = berichtskopf});
+    }
+    inhalt.zeilen = tabelle->Zeilen() - 1;
+    inhalt.zelle = [tabelle](std::size_t zeile, std::size_t spalte) {
+        return tabelle->Zelle(zeile + 1, spalte);
+    };
+    inhalt.zahl = [tabelle](std::size_t zeile, std::size_t spalte) -> std::optional<double> {
+        return tabelle->Wert(zeile + 1, spalte);
+    };
+    return inhalt;
 }
 
 }  // namespace zinfolio

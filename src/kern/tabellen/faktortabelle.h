@@ -3,11 +3,13 @@
 
 #include <array>
 #include <cstddef>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "kern/bericht/tabelle.h"
 #include "kern/grund/ablehnung.h"
 #include "kern/tabellen/finanzfaktor.h"
 
@@ -43,6 +45,8 @@ class Faktortabelle {
     [[nodiscard]] std::size_t Spalten() const { return Leer() ? 0 : saetze_.size() + 1; }
     /// The text of a cell, counted from 0.
     [[nodiscard]] std::string Zelle(std::size_t zeile, std::size_t spalte) const;
+    /// Its number. REQUIRES: not the cell of the top left corner.
+    [[nodiscard]] double Wert(std::size_t zeile, std::size_t spalte) const;
 
   private:
     friend std::optional<Ablehnung> FaktortabelleRechnen(const Faktortabelleneingabe& eingabe,
@@ -63,5 +67,9 @@ inline constexpr std::size_t hoechstzahlFaktoren = std::size_t{1} << 23;
 /// the table is as it was then, too.
 [[nodiscard]] std::optional<Ablehnung> FaktortabelleRechnen(const Faktortabelleneingabe& eingabe,
                                                             Faktortabelle& tabelle);
+
+/// The table for grid and report, which it keeps alive: the first row is the header, in reports with the
+/// percent sign of its rates.
+[[nodiscard]] Tabelleninhalt FaktortabelleZeigen(std::shared_ptr<const Faktortabelle> tabelle);
 
 }  // namespace zinfolio

@@ -159,5 +159,22 @@ TEST(Faktortabelle, LeerHatSieWederZeilenNochSpalten) {
     EXPECT_EQ(Faktortabelle().Spalten(), 0U);
 }
 
+TEST(Faktortabelleninhalt, HatDieSaetzeImKopfUndDarunterDieWerte) {
+    const auto tabelle =
+        std::make_shared<const Faktortabelle>(Tabelle(Eingabe("3", "4", "5", "6", Schrittweite::halb)));
+    const Tabelleninhalt inhalt = FaktortabelleZeigen(tabelle);
+    ASSERT_EQ(inhalt.spalten.size(), 4U);
+    EXPECT_EQ(inhalt.spalten[0].kopf, "Jahr / Zins");
+    EXPECT_EQ(inhalt.spalten[2].kopf, "3,5");
+    EXPECT_EQ(inhalt.zeilen, 2U);
+    EXPECT_EQ(inhalt.zelle(1, 0), "6");
+    EXPECT_EQ(inhalt.zelle(0, 3), "1,2166529");
+    EXPECT_EQ(inhalt.Wert(1, 0), Zellwert(6.0));
+}
+
+TEST(Faktortabelleninhalt, EinerLeerenTabelleIstLeer) {
+    EXPECT_TRUE(FaktortabelleZeigen(std::make_shared<const Faktortabelle>()).spalten.empty());
+}
+
 }  // namespace
 }  // namespace zinfolio
