@@ -4,6 +4,8 @@
 #include <array>
 #include <string_view>
 
+#include "kern/grund/utf8.h"
+
 namespace zinfolio {
 
 /// The text without blanks at either end.
@@ -32,7 +34,7 @@ inline constexpr auto ziffernpaare = [] {
 [[nodiscard]] constexpr std::size_t Zeichenzahl(std::string_view utf8) {
     std::size_t anzahl = 0;
     for (const char byte : utf8)
-        anzahl += (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U ? 1U : 0U;
+        anzahl += IstUtf8Folge(byte) ? 0U : 1U;
     return anzahl;
 }
 

@@ -39,11 +39,30 @@ std::optional<Utf8Zeichen> Utf8Lesen(std::string_view utf8) {
     if (!vorspann || utf8.size() < vorspann->laenge) return std::nullopt;
     char32_t codepunkt = Byte(utf8.front()) & vorspann->nutzbits;
     for (const char folge : utf8.substr(1, vorspann->laenge - 1)) {
-        if ((Byte(folge) & 0xC0U) != 0x80) return std::nullopt;
+        if (!IstUtf8Folge(folge)) return std::nullopt;
         codepunkt = (codepunkt << 6U) | (Byte(folge) & 0x3FU);
     }
     if (codepunkt < vorspann->mindestens || !IstZeichen(codepunkt)) return std::nullopt;
     return Utf8Zeichen{codepunkt, vorspann->laenge};
+}
+
+bool IstUtf8(std::string_view text) {
+    while (!text.empty()) {
+        const auto zeichen = Utf8Lesen(text);
+        if (!zeichen) return false;
+        text.remove_prefix(zeichen->laenge);
+    }
+    return true;
+}
+
+std::string Gekuerzt(std::string_view utf8, std::size_t hoechstens) {
+    std::size_t ende = 0;
+    for (std::size_t zeichen = 0; ende < utf8.size(); ++ende) {
+        if (!IstUtf8Folge(utf8[ende]) && zeichen++ == hoechstens) break;
+    }
+    std::string text(utf8.substr(0, ende));
+    if (ende < utf8.size()) text += "…";
+    return text;
 }
 
 void Utf8Anhaengen(std::string& utf8, char32_t codepunkt) {

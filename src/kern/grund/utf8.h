@@ -17,6 +17,17 @@ struct Utf8Zeichen {
 /// surrogates are not). REQUIRES: the text is not empty.
 [[nodiscard]] std::optional<Utf8Zeichen> Utf8Lesen(std::string_view utf8);
 
+/// True where all of a text is well-formed UTF-8.
+[[nodiscard]] bool IstUtf8(std::string_view text);
+
+/// True for a byte that continues a character.
+[[nodiscard]] constexpr bool IstUtf8Folge(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
+}
+
+/// At most `hoechstens` characters of a UTF-8 text, with "…" behind where something was cut.
+[[nodiscard]] std::string Gekuerzt(std::string_view utf8, std::size_t hoechstens);
+
 /// Appends a character as UTF-8. REQUIRES: a Unicode character, no surrogate.
 void Utf8Anhaengen(std::string& utf8, char32_t codepunkt);
 

@@ -87,7 +87,7 @@ std::string Schriftname(std::string_view utf8) {
     name.erase(0, std::min(name.find_first_not_of(' '), name.size()));
     if (name.size() > hoechsterSchriftname) {
         std::size_t ende = hoechsterSchriftname;
-        while ((static_cast<unsigned char>(name[ende]) & 0xC0U) == 0x80)
+        while (IstUtf8Folge(name[ende]))
             --ende;
         name.resize(ende);
     }

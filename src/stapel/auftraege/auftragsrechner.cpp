@@ -4,6 +4,7 @@
 #include <new>
 
 #include "kern/grund/meldungen.h"
+#include "kern/grund/utf8.h"
 #include "stapel/auftraege/ergebnisse.h"
 #include "stapel/auftraege/rechnungen.h"
 #include "stapel/json/auftragsfehler.h"

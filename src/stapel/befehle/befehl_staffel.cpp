@@ -4,12 +4,12 @@
 #include <vector>
 
 #include "kern/staffel/kontobericht.h"
+#include "kern/staffel/kontocsv.h"
 #include "kern/staffel/kontoprojekt.h"
 #include "stapel/auftraege/ergebnisse.h"
 #include "stapel/befehle/aufruf.h"
 #include "stapel/befehle/befehle.h"
 #include "stapel/befehle/eingaben.h"
-#include "stapel/befehle/kontocsv.h"
 #include "stapel/befehle/optionen.h"
 
 namespace zinfolio {

@@ -1,6 +1,6 @@
 #include "stapel/befehle/eingaben.h"
 
-#include "stapel/befehle/csvlesen.h"
+#include "kern/dateien/csvlesen.h"
 #include "stapel/befehle/kanal.h"
 
 namespace zinfolio {

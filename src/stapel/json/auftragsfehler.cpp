@@ -2,14 +2,12 @@
 
 #include <simdjson.h>
 
+#include "kern/grund/utf8.h"
+
 namespace zinfolio {
 namespace {
 
 constexpr std::size_t hoechstlaenge = 60;
-
-bool IstFortsetzung(char byte) {
-    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
-}
 
 }  // namespace
 
@@ -33,16 +31,6 @@ std::string_view JsonGrund(int fehlercode) {
 void KeinJson(int fehlercode, const char* stelle) {
     throw Auftragsfehler("Der Auftrag ist kein gültiges JSON: " + std::string(JsonGrund(fehlercode)) + ".",
                          stelle);
-}
-
-std::string Gekuerzt(std::string_view utf8, std::size_t hoechstens) {
-    std::size_t ende = 0;
-    for (std::size_t zeichen = 0; ende < utf8.size(); ++ende) {
-        if (!IstFortsetzung(utf8[ende]) && zeichen++ == hoechstens) break;
-    }
-    std::string text(utf8.substr(0, ende));
-    if (ende < utf8.size()) text += "…";
-    return text;
 }
 
 std::string Feldpfad::Text() const {

@@ -38,7 +38,4 @@ struct Feldpfad {
     [[nodiscard]] std::string Text() const;
 };
 
-/// At most `hoechstens` characters of a UTF-8 text, with "…" behind where something was cut.
-[[nodiscard]] std::string Gekuerzt(std::string_view utf8, std::size_t hoechstens);
-
 }  // namespace zinfolio

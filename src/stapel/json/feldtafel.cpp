@@ -3,6 +3,7 @@
 #include <cmath>
 #include <limits>
 
+#include "kern/grund/utf8.h"
 #include "stapel/json/auftragsfehler.h"
 
 namespace zinfolio {

@@ -1,4 +1,4 @@
-#include "stapel/befehle/csvlesen.h"
+#include "kern/dateien/csvlesen.h"
 
 #include <algorithm>
 #include <utility>
@@ -8,15 +8,6 @@
 
 namespace zinfolio {
 namespace {
-
-bool IstUtf8(std::string_view text) {
-    while (!text.empty()) {
-        const auto zeichen = Utf8Lesen(text);
-        if (!zeichen) return false;
-        text.remove_prefix(zeichen->laenge);
-    }
-    return true;
-}
 
 class Csvleser {
   public:

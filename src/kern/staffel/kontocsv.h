@@ -4,8 +4,8 @@
 #include <string_view>
 #include <vector>
 
+#include "kern/dateien/csvlesen.h"
 #include "kern/staffel/staffelsatz.h"
-#include "stapel/befehle/csvlesen.h"
 
 namespace zinfolio {
 

@@ -1,4 +1,4 @@
-#include "stapel/befehle/kontocsv.h"
+#include "kern/staffel/kontocsv.h"
 
 #include <algorithm>
 #include <array>
@@ -8,7 +8,7 @@
 
 #include "kern/dates/datum.h"
 #include "kern/dates/zahl.h"
-#include "stapel/json/auftragsfehler.h"
+#include "kern/grund/utf8.h"
 
 namespace zinfolio {
 namespace {

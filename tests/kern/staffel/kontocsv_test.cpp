@@ -1,4 +1,4 @@
-#include "stapel/befehle/kontocsv.h"
+#include "kern/staffel/kontocsv.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "stapel/befehle/csvlesen.h"
+#include "kern/dateien/csvlesen.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
