@@ -9,6 +9,9 @@
 namespace zinfolio {
 namespace {
 
+/// Far more than any table; a file of nothing but semicolons must not fill the memory.
+constexpr std::size_t hoechsteFelderzahl = 1000;
+
 class Csvleser {
   public:
     explicit Csvleser(std::string_view text) : rest_(text) {}
@@ -20,6 +23,9 @@ class Csvleser {
         if (rest_.empty()) return false;
         zeile = {.nummer = nummer_, .felder = {}};
         do {
+            if (zeile.felder.size() == hoechsteFelderzahl)
+                throw Csvfehler(nummer_,
+                                "Die Zeile hat mehr als " + std::to_string(hoechsteFelderzahl) + " Felder.");
             zeile.felder.push_back(rest_.starts_with('"') ? Angefuehrtes() : Schlichtes());
         } while (Nimm(";"));
         if (!rest_.empty() && !NimmZeilenende())
@@ -41,7 +47,7 @@ class Csvleser {
     }
 
     std::string Schlichtes() {
-        const std::size_t ende = std::min({rest_.find(';'), rest_.find('\n'), rest_.size()});
+        const std::size_t ende = std::min(rest_.find_first_of(";\n"), rest_.size());
         const bool vorZeilenende = ende > 0 && ende < rest_.size() && rest_[ende] == '\n';
         const std::size_t laenge = vorZeilenende && rest_[ende - 1] == '\r' ? ende - 1 : ende;
         std::string feld(rest_.substr(0, laenge));

@@ -7,6 +7,9 @@
 
 namespace zinfolio {
 
+/// Bytes of the longest character.
+inline constexpr std::size_t hoechsteUtf8Laenge = 4;
+
 /// A character at the start of a UTF-8 text, and how many bytes it takes.
 struct Utf8Zeichen {
     char32_t codepunkt;

@@ -7,6 +7,7 @@
 #include <span>
 
 #include "kern/dates/datum.h"
+#include "kern/dates/textteile.h"
 #include "kern/dates/zahl.h"
 #include "kern/grund/utf8.h"
 
@@ -19,6 +20,19 @@ constexpr std::array<std::string_view, 3> zahlungskopf{"Datum", "Betrag", "Besch
 constexpr std::array<std::string_view, 8> konditionskopf{"Datum",         "Gutzins1",    "Gutzins2",
                                                          "Guthabenlinie", "Kreditzins1", "Kreditzins2",
                                                          "Kreditlinie",   "Zweitzinsart"};
+
+/// True where every point of a number in German notation stands between thousands, and one in all such places
+/// or none.
+bool IstGruppiert(std::string_view zahl) {
+    zahl = Getrimmt(zahl);
+    if (zahl.starts_with('-') || zahl.starts_with('+')) zahl.remove_prefix(1);
+    zahl = zahl.substr(0, zahl.find(','));
+    if (zahl.find('.') == std::string_view::npos) return true;
+    for (; zahl.size() > 3; zahl.remove_suffix(4))
+        if (zahl[zahl.size() - 4] != '.' || zahl.substr(zahl.size() - 3).find('.') != std::string_view::npos)
+            return false;
+    return !zahl.empty() && zahl.find('.') == std::string_view::npos;
+}
 
 /// The fields of one row, read from left to right as what they must be.
 class Zeilenfelder {
@@ -33,9 +47,12 @@ class Zeilenfelder {
         return text;
     }
 
+    /// A point elsewhere than between thousands is no grouping, but most likely meant as a decimal point.
     double Zahl() {
-        const auto zahl = ZahlVersuch(Text());
+        const std::string& text = Text();
+        const auto zahl = ZahlVersuch(text);
         if (!zahl) Ungueltig("muss eine Zahl sein, ", " ist keine.");
+        if (!IstGruppiert(text)) Ungueltig("hat ein Dezimalkomma, ein Punkt trennt nur Tausender: ", ".");
         return *zahl;
     }
 

@@ -10,7 +10,7 @@
 namespace zinfolio {
 
 /// Rows of `Datum;Betrag;Beschreibung` behind a line with these words: a real date tt.mm.jjjj, an amount in
-/// German notation, a text. Throws `Csvfehler`.
+/// German notation (a point only between thousands), a text. Throws `Csvfehler`.
 [[nodiscard]] std::vector<Staffelsatz> ZahlungenAusCsv(std::string_view text);
 
 /// The same for `Datum;Gutzins1;Gutzins2;Guthabenlinie;Kreditzins1;Kreditzins2;Kreditlinie;Zweitzinsart`;

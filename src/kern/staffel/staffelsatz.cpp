@@ -1,6 +1,7 @@
 #include "kern/staffel/staffelsatz.h"
 
 #include "kern/dateien/satzbytes.h"
+#include "kern/grund/utf8.h"
 #include "kern/grund/windows1252.h"
 
 namespace zinfolio {
@@ -59,7 +60,9 @@ void SetzeDatum(Staffelsatz& satz, std::string_view datumstext) {
 Staffelsatz Zahlungssatz(std::string_view datumstext, double betrag, std::string_view text) {
     Staffelsatz satz;
     satz.Zahlungsart = zahlungsart::zahlung;
-    satz.Zahlungstext = Festtext<25>::AusWindows1252(NachWindows1252(text));
+    // The field's characters lie within these bytes, however long the text is.
+    constexpr std::size_t hoechstens = 25 * hoechsteUtf8Laenge;
+    satz.Zahlungstext = Festtext<25>::AusWindows1252(NachWindows1252(text.substr(0, hoechstens)));
     SetzeDatum(satz, datumstext);
     satz.Zahlbetrag = betrag;
     return satz;

@@ -108,6 +108,8 @@ void Staffeloptionen::EingabePruefen() const {
         throw Aufruffehler("Dem Befehl \"staffel\" fehlt das Konto.");
     if (!OptionSteht(zahlungen_) || !OptionSteht(zinssaetze_))
         throw Aufruffehler("Die Optionen \"--zahlungen\" und \"--zinssaetze\" stehen nur zusammen.");
+    if (Optionstext(zahlungen_) == "-" && Optionstext(zinssaetze_) == "-")
+        throw Aufruffehler("Die Standardeingabe kann nur eine der beiden Tabellen sein.");
 }
 
 Kontoeinstellungen Staffeloptionen::EinstellungenLesen() const {

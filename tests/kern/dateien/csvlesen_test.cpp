@@ -1,5 +1,6 @@
 #include "kern/dateien/csvlesen.h"
 
+#include <chrono>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <ostream>
@@ -102,6 +103,25 @@ INSTANTIATE_TEST_SUITE_P(Anfuehrungszeichen, CsvfehlerTest,
                                          Fehlerfall{"a\n\"b\" ;c\n", 2, rest},
                                          Fehlerfall{"\"a\nb\"c\n", 2, rest},
                                          Fehlerfall{"\"a\"\rb", 1, rest}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Felderzahl, CsvfehlerTest,
+    testing::Values(Fehlerfall{"a\n" + std::string(1000, ';'), 2, "Die Zeile hat mehr als 1000 Felder."},
+                    Fehlerfall{std::string(1 << 20, ';'), 1, "Die Zeile hat mehr als 1000 Felder."}));
+
+TEST(CsvLesen, TausendFelderSindNichtZuViele) {
+    EXPECT_EQ(CsvLesen(std::string(999, ';')).at(0).felder.size(), 1000U);
+}
+
+// Looking through the rest of the text at every line would take half a minute.
+TEST(CsvLesen, DieZeitWaechstNurMitDerLaenge) {
+    std::string text;
+    for (int i = 0; i < 500'000; ++i)
+        text += "x\n";
+    const auto beginn = std::chrono::steady_clock::now();
+    EXPECT_EQ(CsvLesen(text).size(), 500'000U);
+    EXPECT_LT(std::chrono::steady_clock::now() - beginn, std::chrono::seconds(5));
+}
 
 TEST(CsvLesen, LangerTextKommtGanz) {
     const std::string lang(1'000'000, 'x');

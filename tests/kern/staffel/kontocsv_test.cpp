@@ -25,12 +25,39 @@ TEST(ZahlungenAusCsv, InDerOrdnungDerTabelle) {
 
 TEST(ZahlungenAusCsv, ZahlenSindDeutsch) {
     const auto saetze = ZahlungenAusCsv(
-        zahlungskopf + "01.01.2007;1.5;\n01.01.2007; ,5 ;\n01.01.2007;5,;\n01.01.2007;-0,005;\n");
+        zahlungskopf + "01.01.2007;-1.005;\n01.01.2007; ,5 ;\n01.01.2007;5,;\n01.01.2007;-0,005;\n");
     ASSERT_EQ(saetze.size(), 4U);
-    EXPECT_EQ(saetze[0].Zahlbetrag, 15);
+    EXPECT_EQ(saetze[0].Zahlbetrag, -1005);
     EXPECT_EQ(saetze[1].Zahlbetrag, 0.5);
     EXPECT_EQ(saetze[2].Zahlbetrag, 5);
     EXPECT_EQ(saetze[3].Zahlbetrag, -0.005);
+}
+
+class GruppierungTest : public testing::TestWithParam<std::string> {};
+
+TEST_P(GruppierungTest, EinPunktDerKeineTausenderTrenntIstEinFehlerDerZeile) {
+    try {
+        (void)ZahlungenAusCsv(zahlungskopf + "01.01.2007;5;\n02.01.2007;" + GetParam() + ";\n");
+        FAIL() << "kein Fehler";
+    } catch (const Csvfehler& fehler) {
+        EXPECT_EQ(fehler.Zeile(), 3U);
+        EXPECT_EQ(fehler.what(),
+                  "Das Feld \"Betrag\" hat ein Dezimalkomma, ein Punkt trennt nur Tausender: \"" +
+                      GetParam() + "\".");
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Betraege, GruppierungTest,
+                         testing::Values("1.00", "1.0", "1.", ".5", "-1.5", "12.3456", "1234.567", "1.2345",
+                                         "1.234.56", "1..234", ".123", "1.00,50", "1.234.5,00"));
+
+TEST(ZahlungenAusCsv, TausenderDuerfenGetrenntSein) {
+    const auto saetze = ZahlungenAusCsv(
+        zahlungskopf + "01.01.2007;+1.234;\n01.01.2007; 12.345.678,9 ;\n01.01.2007;-123.456,;\n");
+    ASSERT_EQ(saetze.size(), 3U);
+    EXPECT_EQ(saetze[0].Zahlbetrag, 1234);
+    EXPECT_EQ(saetze[1].Zahlbetrag, 12345678.9);
+    EXPECT_EQ(saetze[2].Zahlbetrag, -123456);
 }
 
 TEST(ZahlungenAusCsv, BeschreibungDarfLeerSeinUndWirdWieImSatzAbgeschnitten) {
