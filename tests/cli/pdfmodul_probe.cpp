@@ -1,9 +1,13 @@
 // Stands in for the module that writes PDF: tells in the file what it was given.
 
+#include <cstdint>
 #include <fstream>
 #include <string>
 
 #include "kern/bericht/bericht.h"
+
+extern "C" const std::uint64_t ZinfolioBerichtslayout;
+const std::uint64_t ZinfolioBerichtslayout = PROBE_BERICHTSLAYOUT;
 
 extern "C" int ZinfolioBerichtAlsPdf(const zinfolio::Bericht* bericht, const char* datei,
                                      std::string* fehler) {

@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 #include <array>
+#include <cstdint>
 #include <cstdio>
 #include <exception>
 #include <memory>
@@ -35,8 +36,12 @@ std::unique_ptr<QGuiApplication> Anwendung() {
 
 }  // namespace
 
+/// A number for how a report lies in memory. The caller compares it with his own before he hands one over.
+extern "C" __attribute__((visibility("default"))) const std::uint64_t ZinfolioBerichtslayout;
+constexpr std::uint64_t ZinfolioBerichtslayout = ZINFOLIO_BERICHTSLAYOUT;
+
 /// Writes a report as a PDF file, all or nothing. 0: done; 1: not, and `fehler` says why in German. Both
-/// pointers are needed. The caller must be compiled with the same sources.
+/// pointers are needed.
 extern "C" __attribute__((visibility("default"))) int ZinfolioBerichtAlsPdf(const Bericht* bericht,
                                                                             const char* datei,
                                                                             std::string* fehler) noexcept {
