@@ -1,0 +1,94 @@
+#include "kern/sparen/plandateien.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "kern/dateien/ganzedatei.h"
+#include "kern/dateien/satzdatei.h"
+#include "kern/dates/textteile.h"
+#include "kern/sparen/meldungen.h"
+
+namespace zinfolio {
+namespace {
+
+constexpr std::size_t satzlaenge = 500;
+constexpr std::size_t groessteNotiz = std::size_t{64} << 20;
+
+constexpr std::array namenzeilen{Barfeld<&Planindex::namen>(1)};
+constexpr std::array indexzeilen{
+    Barfeld<&Planindex::namen>(1),
+    Barfeld<&Planindex::aktuell>(plaenejeForm + 1, {.eintraege = plaenejeForm}),
+};
+constexpr Selbstwertaufbau<Planindex> namenaufbau{satzlaenge, namenzeilen};
+constexpr Selbstwertaufbau<Planindex> indexaufbau{satzlaenge, indexzeilen};
+
+/// A file that is opened for reading and writing exists afterwards.
+void Anlegen(const std::filesystem::path& datei) {
+    static_cast<void>(SaetzeZaehlen(datei, satzlaenge));
+}
+
+/// A number in a file's name takes a blank in the place of its sign.
+std::string MitNummer(std::string_view name, std::size_t nummer) {
+    return std::string(name) + " " + std::to_string(nummer);
+}
+
+}  // namespace
+
+Plandateien::Plandateien(const Sparform& sparform, std::filesystem::path arbeitsordner)
+    : form(&sparform), ordner(std::move(arbeitsordner)) {}
+
+std::filesystem::path Plandateien::Indexpfad() const {
+    return ordner / form->ablage.planindex;
+}
+
+std::filesystem::path Plandateien::Planpfad(std::size_t k) const {
+    return ordner / MitNummer(form->ablage.plandatei, k + 1);
+}
+
+std::filesystem::path Plandateien::Notizpfad(std::size_t k) const {
+    return ordner / MitNummer(form->ablage.notizendatei, k);
+}
+
+Planindex Plandateien::IndexLesen() const {
+    Anlegen(Indexpfad());
+    Planindex index = indexaufbau.Lesen(Indexpfad());
+    for (std::string& name : index.namen) {
+        if (name.empty()) name = meldung::unbenannt;
+    }
+    return index;
+}
+
+void Plandateien::IndexSchreiben(const Planindex& index) const {
+    indexaufbau.Schreiben(Indexpfad(), index);
+}
+
+void Plandateien::NamenSchreiben(const Planindex& index) const {
+    std::vector<std::byte> bytes = namenaufbau.Bytes(index, Indexpfad());
+    const std::string bisher = DateiLesenFallsDa(Indexpfad(), groessteNotiz).value_or("");
+    if (bisher.size() > bytes.size()) {
+        const auto rest = AlsBytes(std::string_view(bisher)).subspan(bytes.size());
+        bytes.insert(bytes.end(), rest.begin(), rest.end());
+    }
+    AtomarSchreiben(Indexpfad(), bytes, Sicherung::Fluechtig);
+}
+
+Sparplan Plandateien::Laden(std::size_t k) const {
+    Anlegen(Planpfad(k));
+    Sparplan plan = form->plandatei.Lesen(Planpfad(k));
+    const std::string_view delta2 = Getrimmt(plan.Delta2);
+    if (delta2 == einheitProzent || delta2 == einheitBetrag) plan.Delta2 = "0";
+    return plan;
+}
+
+std::string Plandateien::Notizen(std::size_t k) const {
+    return DateiLesenFallsDa(Notizpfad(k), groessteNotiz).value_or("");
+}
+
+void Plandateien::Speichern(std::size_t k, const Sparplan& plan, std::string_view notizen) const {
+    AtomareDatei plandatei(Planpfad(k), form->plandatei.Bytes(plan, Planpfad(k)), Sicherung::Dauerhaft);
+    AtomareDatei notizendatei(Notizpfad(k), AlsBytes(notizen), Sicherung::Dauerhaft);
+    notizendatei.Vollenden();
+    plandatei.Vollenden();
+}
+
+}  // namespace zinfolio
