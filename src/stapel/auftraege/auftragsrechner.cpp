@@ -13,10 +13,10 @@
 namespace zinfolio {
 namespace {
 
-Rechnung RechnungSuchen(const std::optional<std::string>& name, const char* stelle) {
+const Rechnungsart& RechnungsartSuchen(const std::optional<std::string>& name, const char* stelle) {
     if (!name) throw Auftragsfehler("Das Feld \"rechnung\" fehlt.", stelle);
     const auto art = std::ranges::find(rechnungsarten, *name, &Rechnungsart::name);
-    if (art != rechnungsarten.end()) return (*art)->rechnen;
+    if (art != rechnungsarten.end()) return **art;
     constexpr std::size_t zeigbar = 40;
     throw Auftragsfehler(
         "Das Feld \"rechnung\" nennt eine unbekannte Rechnung: \"" + Gekuerzt(*name, zeigbar) + "\".",
@@ -24,16 +24,16 @@ Rechnung RechnungSuchen(const std::optional<std::string>& name, const char* stel
 }
 
 /// The operation's trap: a fault of the calculation becomes the general message.
-std::optional<Ablehnung> MitFalle(Rechnung rechnung, JsonWert& auftrag, JsonSchreiber& ergebnis) {
+std::optional<Ablehnung> MitFalle(const Rechnungsart& art, JsonWert& auftrag, JsonSchreiber& ergebnis) {
     try {
-        return rechnung(auftrag, ergebnis);
+        return art.rechnen(auftrag, ergebnis);
     } catch (const Auftragsfehler&) {
         throw;
     } catch (const std::bad_alloc&) {
         throw;
     } catch (const std::exception&) {
         if (ergebnis.IstFest()) throw;
-        return Ablehnung{std::string(meldung::angabenFehler), "", ""};
+        return Ablehnung{std::string(meldung::angabenFehler), "", std::string(art.fehlerregister)};
     }
 }
 
@@ -65,10 +65,10 @@ Auftragsausgang Auftragsrechner::Versuchen(std::string_view auftrag, std::string
     const std::size_t anfang = ergebnis.size();
     leser.Oeffnen(auftrag);
     leser.KopfLesen(kopf);
-    const Rechnung rechnung = RechnungSuchen(kopf.rechnung, auftrag.data());
+    const Rechnungsart& art = RechnungsartSuchen(kopf.rechnung, auftrag.data());
     JsonSchreiber schreiber = Eroeffnet(ergebnis, kopf, true, abfluss);
     std::optional<Ablehnung> ablehnung;
-    leser.AuftragLesen([&](JsonWert& wert) { ablehnung = MitFalle(rechnung, wert, schreiber); });
+    leser.AuftragLesen([&](JsonWert& wert) { ablehnung = MitFalle(art, wert, schreiber); });
     if (!ablehnung) {
         schreiber.ObjektZu();
         return {};

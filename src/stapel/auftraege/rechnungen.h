@@ -22,14 +22,19 @@ using Rechnung = std::optional<Ablehnung> (*)(JsonWert& auftrag, JsonSchreiber& 
 struct Rechnungsart {
     std::string_view name;
     Rechnung rechnen;
+    /// The tab that the form selects after a fault; empty: it stays where it is.
+    std::string_view fehlerregister{};
 };
 
 /// A kind whose job is read by the table `felder` and handed to `rechne(auftrag, ergebnis)`.
 template <const auto& felder, auto rechne>
-[[nodiscard]] constexpr Rechnungsart Auftragsart(std::string_view name) {
-    return {name, [](JsonWert& auftrag, JsonSchreiber& ergebnis) -> std::optional<Ablehnung> {
+[[nodiscard]] constexpr Rechnungsart Auftragsart(std::string_view name,
+                                                 std::string_view fehlerregister = {}) {
+    return {name,
+            [](JsonWert& auftrag, JsonSchreiber& ergebnis) -> std::optional<Ablehnung> {
                 return rechne(AuftragLesen(auftrag, felder), ergebnis);
-            }};
+            },
+            fehlerregister};
 }
 
 extern const Rechnungsart rechnungDatum;
@@ -41,6 +46,7 @@ extern const Rechnungsart rechnungPeriodenzinsen;
 extern const Rechnungsart rechnungReihe;
 extern const Rechnungsart rechnungReihenwert;
 extern const Rechnungsart rechnungSensitivitaet;
+extern const Rechnungsart rechnungSparen;
 extern const Rechnungsart rechnungStaffel;
 extern const Rechnungsart rechnungTage;
 extern const Rechnungsart rechnungTilgungsplan;
@@ -55,6 +61,7 @@ inline constexpr std::array rechnungsarten{
     &rechnungPeriodenzinsen, &rechnungDatum,         &rechnungZahlformat,   &rechnungZahlungsreihe,
     &rechnungZinstermine,    &rechnungWertanalyse,   &rechnungTilgungsplan, &rechnungSensitivitaet,
     &rechnungJahreswerte,    &rechnungFaktortabelle, &rechnungFaktor,       &rechnungKurz,
+    &rechnungSparen,
 };
 
 }  // namespace zinfolio
