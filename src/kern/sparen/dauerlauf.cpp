@@ -51,9 +51,8 @@ double Dauerlauf::Periodenzins(const Stand& stand, Datum bis) const {
 void Dauerlauf::Anfuegen(Datum tag, Art art, double betrag) {
     const Stand& vorher = staende.back();
     const double kumulzins = vorher.angefallen + Periodenzins(vorher, tag);
-    const Stand stand = art == Art::zahlung
-                            ? Stand{tag, art, vorher.kontostand + betrag, kumulzins}
-                            : Stand{tag, art, vorher.kontostand + kumulzins, 0};
+    const Stand stand = art == Art::zahlung ? Stand{tag, art, vorher.kontostand + betrag, kumulzins}
+                                            : Stand{tag, art, vorher.kontostand + kumulzins, 0};
     if (!std::isfinite(stand.kontostand) || !std::isfinite(kumulzins))
         throw Rechenfehler("Überlauf im Konto.");
     staende.push_back(stand);

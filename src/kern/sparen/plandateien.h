@@ -35,7 +35,8 @@ class Plandateien {
     void NamenSchreiben(const Planindex& index) const;
 
     /// The plan number `k` (from 0). A missing file is created empty and gives a new plan, and so does each
-    /// record that is missing. "%" or "€" in the place of an amount of change, as older files hold it, is "0".
+    /// record that is missing. "%" or "€" in the place of an amount of change, as older files hold it, is
+    /// "0".
     [[nodiscard]] Sparplan Laden(std::size_t k) const;
     /// The notes of plan `k`, a rich-text document byte for byte; a missing file is an empty text.
     [[nodiscard]] std::string Notizen(std::size_t k) const;

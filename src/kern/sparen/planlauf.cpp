@@ -127,7 +127,8 @@ void KonditionenSchreiben(const Sparform& form, const Sparplan& plan, const Plan
     constexpr std::size_t kuerzestesDatum = 4;
     for (std::size_t i = 0; i < zinstabellenzeilen; ++i) {
         const std::string& datum = plan.ZinsWDAt[i];
-        if (Zeichenzahl(datum) < kuerzestesDatum || Datum::Lesen(datum) > Datum::Lesen(plan.Enddatum)) continue;
+        if (Zeichenzahl(datum) < kuerzestesDatum || Datum::Lesen(datum) > Datum::Lesen(plan.Enddatum))
+            continue;
         ziel.push_back(Konditionssatz(datum, EinZins(Satzzins(Zahl(plan.Zinsbetrag[i])))));
         ziel.back().Zahlungstext = Zahlungstext("Zinsänderung");
     }

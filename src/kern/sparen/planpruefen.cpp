@@ -22,7 +22,8 @@ constexpr Planpruefung spardatum{[](const Sparplan& p, double) { return IstKurz(
 
 void NullenFuellen(const Sparform& form, Sparplan& plan) {
     for (const Formzeile& zeile : form.felder) {
-        if (zeile.leer == Leerfeld::wirdNull && (plan.*zeile.feld->text).empty()) plan.*zeile.feld->text = "0";
+        if (zeile.leer == Leerfeld::wirdNull && (plan.*zeile.feld->text).empty())
+            plan.*zeile.feld->text = "0";
     }
 }
 
@@ -52,12 +53,11 @@ constexpr Planpruefung sparrateNachAnfang{
 constexpr Planpruefung endeNachAnfang{
     [](const Sparplan& p, double) { return Datum::Lesen(p.Enddatum) <= Datum::Lesen(p.Anfdatum); },
     meldung::endeVorAnfang, sparfeld::Enddatum.name};
-constexpr Planpruefung hoechstens150Jahre{[](const Sparplan& p, double) {
-                                              return Datum::Lesen(p.Enddatum).Jahr() -
-                                                         Datum::Lesen(p.Anfdatum).Jahr() >
-                                                     hoechstspanne;
-                                          },
-                                          meldung::zuVieleJahre, sparfeld::Enddatum.name};
+constexpr Planpruefung hoechstens150Jahre{
+    [](const Sparplan& p, double) {
+        return Datum::Lesen(p.Enddatum).Jahr() - Datum::Lesen(p.Anfdatum).Jahr() > hoechstspanne;
+    },
+    meldung::zuVieleJahre, sparfeld::Enddatum.name};
 constexpr Planpruefung differenz{
     [](const Sparplan& p, double) { return Zahl(p.Vwert) == 0 && Zahl(p.AnfVermögen) == 0; },
     meldung::differenzZuGering, sparfeld::Vwert.name};

@@ -47,8 +47,8 @@ void Ratenfolge::AendereMitGrenzen() {
 
 void Ratenfolge::AendereEinfach() {
     if (delta() == 0) return;
-    rate = plan.Command6 == einheitProzent ? RundeKaufmaennisch(rate * (1 + delta() / 100), 2)
-                                           : rate + delta();
+    rate =
+        plan.Command6 == einheitProzent ? RundeKaufmaennisch(rate * (1 + delta() / 100), 2) : rate + delta();
     ratenzaehler = 0;
 }
 

@@ -32,8 +32,8 @@ Schnelllauf::Zeile Schnelllauf::ZeileAus(const Staffelsatz& satz, Datum von, Dat
     if (von.Jahr() == bis.Jahr())
         return {satz.Zahlungsart, quotient, double(tage), double(Jahreslaenge(von.Jahr())), 0, 1};
     const int vorher = *Datum::Aus(von.Jahr(), 12, 31) - von;
-    return {satz.Zahlungsart,     quotient,
-            double(vorher),       double(Jahreslaenge(von.Jahr())),
+    return {satz.Zahlungsart,      quotient,
+            double(vorher),        double(Jahreslaenge(von.Jahr())),
             double(tage - vorher), double(Jahreslaenge(bis.Jahr()))};
 }
 

@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "kern/dates/verzinsungsmethode.h"
-#include "kern/sparen/sparform.h"
 #include "kern/sparen/planlauf.h"
+#include "kern/sparen/sparform.h"
 
 namespace zinfolio {
 
@@ -19,8 +19,8 @@ class Schnelllauf {
     /// Takes kinds, dates and rates from a finished pass of the same plan. Form and plan outlive this object.
     Schnelllauf(const Sparform& sparform, const Sparplan& sparplan, const Sparlauf& lauf);
 
-    /// The `LetzterKontostand` of a pass with `probe`; faults where that pass has one. REQUIRES: `probe` tries
-    /// no end of its own.
+    /// The `LetzterKontostand` of a pass with `probe`; faults where that pass has one. REQUIRES: `probe`
+    /// tries no end of its own.
     [[nodiscard]] double Endstand(const Planprobe& probe);
 
   private:

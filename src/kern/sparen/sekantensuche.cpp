@@ -18,8 +18,8 @@ constexpr double gleicheAbweichung = 0.001;
 /// The way of a search, to find out when it goes round in a ring.
 class Suchweg {
   public:
-    /// Enters a pair of trials; gives the member of the ring that is nearest to the target, where the pair has
-    /// been met before.
+    /// Enters a pair of trials; gives the member of the ring that is nearest to the target, where the pair
+    /// has been met before.
     [[nodiscard]] const Suchpunkt* Ringbester(const Sekante& paar) {
         const auto [stelle, neu] = erstmals.try_emplace({paar.alt.x, paar.neu.x}, punkte.size());
         if (neu) {

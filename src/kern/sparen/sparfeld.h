@@ -37,8 +37,8 @@ constexpr Sparfeld Text(std::string_view name, Sparfeldart art) {
 }
 template <auto glied>
 constexpr Sparfeld Liste(std::string_view name, std::span<const std::string_view> eintraege) {
-    return {name,      Sparfeldart::liste, nullptr, glied,
-            eintraege, Selbstfeld<glied>(0, {.eintraege = eintraege.size()})};
+    return {name,  Sparfeldart::liste, nullptr,
+            glied, eintraege,          Selbstfeld<glied>(0, {.eintraege = eintraege.size()})};
 }
 template <auto glied>
 constexpr Sparfeld Haken(std::string_view name) {

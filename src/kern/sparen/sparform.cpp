@@ -21,8 +21,8 @@ constexpr Formzeile sparrate{&feld::Betrag, "Höhe der Sparrate", 4, plan, wirdN
 constexpr Formzeile zahlungsweise{&feld::Combo1, "Zahlungsweise", 5};
 constexpr Formzeile monatsletzter{&feld::Check1, "Nachfolgende Zahlungen zum Monatsletzten", 11};
 constexpr Formzeile dynamik{&feld::Check2, "Dynamisierung der Zahlungen", 12, dynamisierung};
-constexpr Formzeile anzahl{
-    &feld::Anzahl, "Dynamisierung jeweils nach ", 13, dynamisierung, wirdNull, "Zahlungen"};
+constexpr Formzeile anzahl{&feld::Anzahl, "Dynamisierung jeweils nach ", 13, dynamisierung, wirdNull,
+                           "Zahlungen"};
 constexpr std::string_view veraenderung = "Veränderung des Zahlungsbetrages jeweils";
 constexpr Formzeile delta{&feld::Delta, veraenderung, 14, dynamisierung, wirdNull, "%"};
 constexpr Formzeile delta2{&feld::Delta2, veraenderung, 15, dynamisierung, wirdNull, "€"};
@@ -40,19 +40,33 @@ constexpr Formzeile zielwert{&feld::Vwert, "Vermögensendwert", 4, ziel, wirdNul
 constexpr Formzeile effektivmethode{&feld::Combo5, "Effektivzinssatzberechnungsmethode", 10, ziel};
 
 constexpr std::array endkapitalfelder{
-    anfangsvermoegen, anfangsdatum, spardatum,
-    sparrate,         zahlungsweise, monatsletzter,
-    dynamik,          anzahl,        delta,
-    delta2,           stufengrenze,  stufen,
-    obergrenze,       maximum,       untergrenze,
-    minimum,          nominalzins,   verzinsung,
-    verrechnung,      Formzeile{&feld::Enddatum, "Berechnen bis Datum", 9, ziel},
+    anfangsvermoegen,
+    anfangsdatum,
+    spardatum,
+    sparrate,
+    zahlungsweise,
+    monatsletzter,
+    dynamik,
+    anzahl,
+    delta,
+    delta2,
+    stufengrenze,
+    stufen,
+    obergrenze,
+    maximum,
+    untergrenze,
+    minimum,
+    nominalzins,
+    verzinsung,
+    verrechnung,
+    Formzeile{&feld::Enddatum, "Berechnen bis Datum", 9, ziel},
     effektivmethode,
 };
 constexpr std::array sparratenfelder{
-    anfangsvermoegen, anfangsdatum, spardatum,  zahlungsweise, monatsletzter,   dynamik,  anzahl,
-    delta,            delta2,       stufengrenze, stufen,      obergrenze,      maximum,  untergrenze,
-    minimum,          zielwert,     enddatum,   nominalzins,   verzinsung,      verrechnung, effektivmethode,
+    anfangsvermoegen, anfangsdatum, spardatum,       zahlungsweise, monatsletzter, dynamik,
+    anzahl,           delta,        delta2,          stufengrenze,  stufen,        obergrenze,
+    maximum,          untergrenze,  minimum,         zielwert,      enddatum,      nominalzins,
+    verzinsung,       verrechnung,  effektivmethode,
 };
 constexpr std::array renditefelder{
     anfangsvermoegen,
@@ -119,10 +133,11 @@ constexpr std::array kapitalfelder{
 };
 
 constexpr std::array endkapitalpruefungen{
-    &pruefung::anfangsdatum,       &pruefung::enddatum,       &pruefung::zins,
-    &pruefung::sparrateNachAnfang, &pruefung::endeNachAnfang, &pruefung::hoechstens150Jahre,
-    &pruefung::anzahl,             &pruefung::stufen,         &pruefung::maximum,
-    &pruefung::minimum,
+    &pruefung::anfangsdatum,   &pruefung::enddatum,
+    &pruefung::zins,           &pruefung::sparrateNachAnfang,
+    &pruefung::endeNachAnfang, &pruefung::hoechstens150Jahre,
+    &pruefung::anzahl,         &pruefung::stufen,
+    &pruefung::maximum,        &pruefung::minimum,
 };
 constexpr std::array sparratenpruefungen{
     &pruefung::anfangsdatum,       &pruefung::enddatum,       &pruefung::zins,
@@ -130,9 +145,15 @@ constexpr std::array sparratenpruefungen{
     &pruefung::differenz,          &pruefung::anzahl,         &pruefung::stufen,
 };
 constexpr std::array renditepruefungen{
-    &pruefung::anfangsdatum,       &pruefung::enddatum,       &pruefung::vermoegensendwert,
-    &pruefung::sparrateNachAnfang, &pruefung::endeNachAnfang, &pruefung::hoechstens150Jahre,
-    &pruefung::anzahl,             &pruefung::stufen,         &pruefung::maximum,
+    &pruefung::anfangsdatum,
+    &pruefung::enddatum,
+    &pruefung::vermoegensendwert,
+    &pruefung::sparrateNachAnfang,
+    &pruefung::endeNachAnfang,
+    &pruefung::hoechstens150Jahre,
+    &pruefung::anzahl,
+    &pruefung::stufen,
+    &pruefung::maximum,
     &pruefung::minimum,
 };
 constexpr std::array dauerpruefungen{
@@ -140,9 +161,9 @@ constexpr std::array dauerpruefungen{
     &pruefung::sparrateNachAnfang, &pruefung::zielNichtKleiner,
 };
 constexpr std::array kapitalpruefungen{
-    &pruefung::anfangsdatum,       &pruefung::enddatum,       &pruefung::zins,
-    &pruefung::sparrateNachAnfang, &pruefung::endeNachAnfang, &pruefung::hoechstens150Jahre,
-    &pruefung::differenzZumKapital, &pruefung::anzahl,        &pruefung::stufen,
+    &pruefung::anfangsdatum,        &pruefung::enddatum,       &pruefung::zins,
+    &pruefung::sparrateNachAnfang,  &pruefung::endeNachAnfang, &pruefung::hoechstens150Jahre,
+    &pruefung::differenzZumKapital, &pruefung::anzahl,         &pruefung::stufen,
 };
 
 /// The table of rate changes: all dates, then all rates.

@@ -21,8 +21,8 @@ struct Spargang {
 /// Each search leaves the tables of its last pass and what it found in the result, or gives the refusal of a
 /// search without a solution. All faults are exceptions.
 
-/// The first savings rate, in cents, with which the plan reaches `Vwert`. The two bounds hold its trials while
-/// the plan has a dynamisation.
+/// The first savings rate, in cents, with which the plan reaches `Vwert`. The two bounds hold its trials
+/// while the plan has a dynamisation.
 [[nodiscard]] std::optional<Ablehnung> SparrateSuchen(Spargang& gang);
 
 /// The initial capital, in cents, with which the plan reaches `Vwert`.

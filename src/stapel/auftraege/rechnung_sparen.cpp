@@ -20,7 +20,9 @@ struct Formwahl {
 
 void FeldLesen(JsonWert& wert, Formwahl& ziel) {
     ziel.form = SparformSuchen(wert.Text());
-    if (ziel.form == nullptr) wert.Ungueltig("muss \"Form90000\", \"Form92000\", \"Form94000\", \"Form96000\" oder \"Form99000\" sein");
+    if (ziel.form == nullptr)
+        wert.Ungueltig(
+            "muss \"Form90000\", \"Form92000\", \"Form94000\", \"Form96000\" oder \"Form99000\" sein");
 }
 
 /// The controls of a job, whichever form they belong to: that is told by another field.
@@ -71,7 +73,8 @@ struct Zinstabelle {
 void FeldLesen(JsonWert& wert, Zinstabelle& ziel) {
     ziel.stelle = wert.Stelle();
     wert.Elemente([&](JsonWert& zeile) {
-        if (ziel.zeilen.size() == zinstabellenzeilen) zeile.Ungueltig("ist mehr als die 40 Zeilen der Tabelle");
+        if (ziel.zeilen.size() == zinstabellenzeilen)
+            zeile.Ungueltig("ist mehr als die 40 Zeilen der Tabelle");
         std::vector<std::string> texte;
         FeldLesen(zeile, texte);
         if (texte.size() != 2) zeile.Ungueltig("muss ein Datum und einen Zinssatz haben");
@@ -88,7 +91,8 @@ struct Einheit {
 void FeldLesen(JsonWert& wert, Einheit& ziel) {
     ziel.stelle = wert.Stelle();
     ziel.text = wert.Text();
-    if (ziel.text != einheitProzent && ziel.text != einheitBetrag) wert.Ungueltig("muss \"%\" oder \"€\" sein");
+    if (ziel.text != einheitProzent && ziel.text != einheitBetrag)
+        wert.Ungueltig("muss \"%\" oder \"€\" sein");
 }
 
 struct Sparauftrag {
@@ -98,10 +102,9 @@ struct Sparauftrag {
     Einheit Command6;
 };
 
-constexpr auto felder = Auftragsfelder(Pflichtfeld<&Sparauftrag::Form>("Form"),
-                                       Pflichtfeld<&Sparauftrag::Felder>("Felder"),
-                                       Kannfeld<&Sparauftrag::Zinstabelle>("Zinstabelle"),
-                                       Kannfeld<&Sparauftrag::Command6>("Command6"));
+constexpr auto felder = Auftragsfelder(
+    Pflichtfeld<&Sparauftrag::Form>("Form"), Pflichtfeld<&Sparauftrag::Felder>("Felder"),
+    Kannfeld<&Sparauftrag::Zinstabelle>("Zinstabelle"), Kannfeld<&Sparauftrag::Command6>("Command6"));
 
 [[noreturn]] void FehltImFormular(const Sparform& form, std::string_view feld, const char* stelle) {
     throw Auftragsfehler(
