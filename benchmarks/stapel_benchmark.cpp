@@ -51,6 +51,19 @@ void Konto(benchmark::State& lauf) {
 }
 BENCHMARK(Konto)->Arg(1)->Arg(50)->Arg(1000)->Arg(30000);
 
+/// A value analysis of so many payments.
+void Wertanalyse(benchmark::State& lauf) {
+    std::string zahlungen;
+    for (int i = 0; i < lauf.range(0); ++i) {
+        zahlungen += zahlungen.empty() ? "" : ",";
+        zahlungen += R"({"Datum":")" + PlusMonate(*Datum::Aus(2000, 1, 15), i).Text() + R"(","Betrag":)" +
+                     (i == 0 ? "-5000" : "120.25") + "}";
+    }
+    Rechne(lauf, R"({"id":1,"rechnung":"wertanalyse","Zahlungen":[)" + zahlungen +
+                     R"(],"Anzeigeart":1,"Abzins2":"4,25","BarwDatum":""})");
+}
+BENCHMARK(Wertanalyse)->Arg(50);
+
 void Tage(benchmark::State& lauf) {
     Rechne(lauf,
            R"({"id":1,"rechnung":"tage","Von":"01.01.2007","Bis":"31.03.2007","Verzinsungsmethode":0})");

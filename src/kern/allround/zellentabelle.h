@@ -2,15 +2,18 @@
 
 #include <array>
 #include <cstddef>
+#include <memory>
 #include <span>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "kern/bericht/tabelle.h"
+
 namespace zinfolio {
 
-/// A result table as the user sees it: headers and cell texts (UTF-8). Grid, report, chart and batch command
-/// take its cells as they stand.
+/// A calculated table: headers and cell texts (UTF-8) as the user sees them. Charts and differences take the
+/// numbers of these texts.
 class Zellentabelle {
   public:
     Zellentabelle() = default;
@@ -47,5 +50,10 @@ class Zellentabelle {
     std::vector<std::string> koepfe;
     std::vector<std::string> zellen;
 };
+
+/// The same for grid, report, CSV and text, which take its cells as they stand; `arten` by columns, from left
+/// to right.
+[[nodiscard]] Tabelleninhalt InhaltBilden(std::shared_ptr<const Zellentabelle> tabelle,
+                                          std::span<const Zellart> arten);
 
 }  // namespace zinfolio

@@ -57,7 +57,7 @@ struct Bericht {
     /// The lines of the head pages, in columns of single characters.
     std::vector<std::string> kopfblock;
     Berichtsschrift kopfblockschrift{.name = "Courier New", .punkte = 10};
-    /// The line above the table's header on every page; empty: none.
+    /// The line above the table's header on every page, or several with line feeds between; empty: none.
     std::string seitenzeile;
     Berichtstabelle tabelle;
     bool querformat = true;

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <numeric>
+#include <string_view>
 
 #include "kern/bericht/seitenmass.h"
 #include "kern/bericht/spaltenbreiten.h"
@@ -92,10 +94,22 @@ void SpaltenLegen(Seitenlayout& layout, const Berichtstabelle& tabelle,
         layout.kanten.push_back(static_cast<int>(std::lround(kante += breite)));
 }
 
+std::vector<std::string> SeitenzeileUmbrechen(std::string_view text, const Textmass& mass, double platz) {
+    std::vector<std::string> zeilen;
+    for (std::size_t anfang = 0; anfang <= text.size();) {
+        const std::size_t ende = std::min(text.find('\n', anfang), text.size());
+        std::ranges::move(mass.InZeilen(text.substr(anfang, ende - anfang), platz),
+                          std::back_inserter(zeilen));
+        anfang = ende + 1;
+    }
+    return zeilen;
+}
+
 void KopfLegen(Seitenlayout& layout, const Bericht& bericht, const Textmass& mass) {
     layout.kopfzeile = Anteil(bericht.tabelle.kopfschrift, layout.tabellenfaktor, zeilenhoehe);
     if (!bericht.seitenzeile.empty()) {
-        layout.seitenzeile = mass.InZeilen(bericht.seitenzeile, Textplatz(layout) / layout.tabellenfaktor);
+        layout.seitenzeile =
+            SeitenzeileUmbrechen(bericht.seitenzeile, mass, Textplatz(layout) / layout.tabellenfaktor);
         layout.seitenzeilenhoehe =
             static_cast<int>(layout.seitenzeile.size()) * layout.kopfzeile + 2 * layout.zellabstand;
     }

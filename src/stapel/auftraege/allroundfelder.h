@@ -1,10 +1,11 @@
 #pragma once
-// What the jobs of the all-round calculator share.
+// What the jobs of the all-round calculator, and the command beside them, share.
 
 #include <stdexcept>
 #include <vector>
 
 #include "kern/allround/planzeilen.h"
+#include "kern/allround/tilgungsplan.h"
 #include "kern/allround/wertanalyse.h"
 #include "kern/allround/zellentabelle.h"
 #include "kern/staffel/staffelsatz.h"
@@ -30,6 +31,12 @@ void LaengePruefen(const SortierteZahlungen& zahlungen);
 
 /// Appends the cells of a table as a field: a list of rows, each a list of texts.
 void TabelleSchreiben(std::string_view name, const Zellentabelle& tabelle, JsonSchreiber& ergebnis);
+
+/// Appends the fields of a complete analysis to an open object.
+void WertergebnisSchreiben(const Wertergebnis& werte, JsonSchreiber& ergebnis);
+
+/// Appends the fields of a complete plan to an open object.
+void PlanSchreiben(const Tilgungsplan& plan, JsonSchreiber& ergebnis);
 
 /// Calculates where the form says nothing about a fault: it becomes a refusal without words.
 template <typename Rechenweg>

@@ -23,15 +23,7 @@ std::optional<Ablehnung> Rechne(const Wertauftrag& auftrag, JsonSchreiber& ergeb
     Werteingabe eingabe{auftrag.Anzeigeart, auftrag.Abzins2, auftrag.BarwDatum};
     Wertergebnis werte;
     if (auto ablehnung = WertAnalyse(auftrag.Zahlungen.saetze, eingabe, werte)) return ablehnung;
-    TabelleSchreiben("Zeilen", werte.Tabelle, ergebnis);
-    ergebnis.Feld("StatAmor", werte.Aussagen->StatAmor);
-    ergebnis.Feld("DynAmor", werte.Aussagen->DynAmor);
-    ergebnis.Feld("Dynamorinterpoliert", werte.Dynamorinterpoliert.value_or(""));
-    ergebnis.Feld("Label12", werte.Aussagen->Label12);
-    ergebnis.Feld("Label13", werte.Aussagen->Label13);
-    ergebnis.Feld("Label14", werte.Aussagen->Label14);
-    ergebnis.Feld("Frame1", werte.Frame1);
-    ergebnis.Feld("Farbzeile", werte.Farbzeile);
+    WertergebnisSchreiben(werte, ergebnis);
     return std::nullopt;
 }
 

@@ -40,7 +40,7 @@ TEST(Jahreswerte, Koepfe) {
 TEST(Jahreswerte, BarwertdatumAmJahresendeIstDerErsteStichtagUndDieLetzteZeileIstNull) {
     const Zellentabelle tabelle =
         Tabelle(Zahlungen({{"01.06.2006", 100}, {"01.06.2010", 100}}), "3", "31.12.2005");
-    EXPECT_EQ(Spalte(tabelle, 0),
+    EXPECT_EQ(Spaltentexte(tabelle, 0),
               (Zeile{"31.12.2005", "31.12.2006", "31.12.2007", "31.12.2008", "31.12.2009", "31.12.2010"}));
     EXPECT_EQ(tabelle.Zelle(5, 1), "0,00");
 }
@@ -67,9 +67,9 @@ TEST(Jahreswerte, DifferenzenRechnenMitDenCentsDerZellen) {
     const auto zahlungen =
         Zahlungen({{"01.06.2006", drittel}, {"01.06.2007", drittel}, {"01.06.2008", drittel}});
     const Zellentabelle tabelle = Tabelle(zahlungen, "0", "31.12.2005");
-    EXPECT_EQ(Spalte(tabelle, 2), (Zeile{"0,01", "0,01", "0,00", "0,00"}));
-    EXPECT_EQ(Spalte(tabelle, 3), (Zeile{"0,00", "0,00", "0,01", "0,00"}));
-    EXPECT_EQ(Spalte(tabelle, 4), (Zeile{"0,01", "0,00", "-0,01", "0,00"}));
+    EXPECT_EQ(Spaltentexte(tabelle, 2), (Zeile{"0,01", "0,01", "0,00", "0,00"}));
+    EXPECT_EQ(Spaltentexte(tabelle, 3), (Zeile{"0,00", "0,00", "0,01", "0,00"}));
+    EXPECT_EQ(Spaltentexte(tabelle, 4), (Zeile{"0,01", "0,00", "-0,01", "0,00"}));
 }
 
 TEST(Jahreswerte, BarwertdatumHinterDemEndeGibtEineZeile) {

@@ -39,8 +39,8 @@ TEST(Sensitivitaet, EndwerteZaehlenBisZurLetztenZahlung) {
     const Zellentabelle tabelle =
         Tabelle(Investition(), {.Anzeigeart = Wertart::endwert, .MiZins = "10", .Vorwert = -460});
     EXPECT_EQ(tabelle.Koepfe()[2], "kumulierter Vermögensendwert");
-    EXPECT_EQ(Spalte(tabelle, 2), (Zeile{"122,50", "106,40", "90,10", "73,60", "56,90", "40,00", "22,90",
-                                         "5,60", "-11,90", "-29,60", "-47,50"}));
+    EXPECT_EQ(Spaltentexte(tabelle, 2), (Zeile{"122,50", "106,40", "90,10", "73,60", "56,90", "40,00",
+                                               "22,90", "5,60", "-11,90", "-29,60", "-47,50"}));
     // 460 / 500 * 184 = 169 days at each rate.
     EXPECT_EQ(tabelle.Zelle(0, 4), "17.12.2006");
     EXPECT_EQ(tabelle.Zelle(7, 4), "17.12.2006");
@@ -57,9 +57,9 @@ TEST(Sensitivitaet, OhneGeliehenenWertBeginntDieGeradeBeiNull) {
 }
 
 TEST(Sensitivitaet, UnterNullWirdDerAnfangAbgeschnittenUndDerMittlereZinsIstNichtDieSechsteZeile) {
-    EXPECT_EQ(Spalte(Tabelle(Investition(), {.MiZins = "0,3", .Combo2 = 0}), 0),
+    EXPECT_EQ(Spaltentexte(Tabelle(Investition(), {.MiZins = "0,3", .Combo2 = 0}), 0),
               (Zeile{"0", "0,1", "0,2", "0,3", "0,4", "0,5", "0,6", "0,7", "0,8", "0,9", "1"}));
-    EXPECT_EQ(Spalte(Tabelle(Investition(), {.MiZins = "2"}), 0),
+    EXPECT_EQ(Spaltentexte(Tabelle(Investition(), {.MiZins = "2"}), 0),
               (Zeile{"0", "1", "2", "3", "4", "5", "6", "7", "8", "9", "10"}));
     EXPECT_EQ(Tabelle(Investition(), {.MiZins = "-50"}).Zelle(0, 0), "0");
 }
@@ -85,10 +85,10 @@ TEST(Sensitivitaet, MittlererZinsOhneZahlIstNull) {
 TEST(Sensitivitaet, ReiheDieNieNullErreichtHatKeineDaten) {
     const Zellentabelle tabelle =
         Tabelle(Zahlungen({{"01.01.2005", -100}, {"01.01.2006", 50}}), {.MiZins = "5"});
-    EXPECT_EQ(Spalte(tabelle, 3), Zeile(11, "Keine"));
-    EXPECT_EQ(Spalte(tabelle, 4), Zeile(11, "Keine"));
-    EXPECT_EQ(Spalte(tabelle, 5), Zeile(11, ""));
-    EXPECT_EQ(Spalte(tabelle, 6), Zeile(11, ""));
+    EXPECT_EQ(Spaltentexte(tabelle, 3), Zeile(11, "Keine"));
+    EXPECT_EQ(Spaltentexte(tabelle, 4), Zeile(11, "Keine"));
+    EXPECT_EQ(Spaltentexte(tabelle, 5), Zeile(11, ""));
+    EXPECT_EQ(Spaltentexte(tabelle, 6), Zeile(11, ""));
 }
 
 // 110 / 1,10 = 100 exactly; from 11 % on the value is negative.
@@ -102,8 +102,8 @@ TEST(Sensitivitaet, ZeileOhneDatumWiederholtJahreUndTageDerZeileDavor) {
 TEST(Sensitivitaet, StatischesDatumBleibtAuchWoDieSummeWiederUnterNullFaellt) {
     const Zellentabelle tabelle =
         Tabelle(Zahlungen({{"01.01.2005", -100}, {"01.01.2006", 150}, {"01.01.2007", -80}}), {.MiZins = "5"});
-    EXPECT_EQ(Spalte(tabelle, 3), Zeile(11, "01.01.2006"));
-    EXPECT_EQ(Spalte(tabelle, 1), Zeile(11, "-30,00"));
+    EXPECT_EQ(Spaltentexte(tabelle, 3), Zeile(11, "01.01.2006"));
+    EXPECT_EQ(Spaltentexte(tabelle, 1), Zeile(11, "-30,00"));
 }
 
 TEST(Sensitivitaet, SummeWirdBeiJederZahlungAufCentsGerundet) {
@@ -116,12 +116,13 @@ TEST(Sensitivitaet, SummeWirdBeiJederZahlungAufCentsGerundet) {
 }
 
 TEST(Sensitivitaet, ZweiZahlungenAmTagDerWendeLassenDasDatumDerZeileDavor) {
-    EXPECT_EQ(Spalte(Tabelle(Zahlungen({{"01.01.2005", -100}, {"01.01.2005", 120}}), {.MiZins = "5"}), 4),
-              Zeile(11, ""));
+    EXPECT_EQ(
+        Spaltentexte(Tabelle(Zahlungen({{"01.01.2005", -100}, {"01.01.2005", 120}}), {.MiZins = "5"}), 4),
+        Zeile(11, ""));
 }
 
 TEST(Sensitivitaet, ErsteZahlungUeberNullHatKeinInterpoliertesDatum) {
-    EXPECT_EQ(Spalte(Tabelle(Zahlungen({{"01.01.2005", 100}, {"01.01.2006", 5}}), {.MiZins = "5"}), 4),
+    EXPECT_EQ(Spaltentexte(Tabelle(Zahlungen({{"01.01.2005", 100}, {"01.01.2006", 5}}), {.MiZins = "5"}), 4),
               Zeile(11, "Keine"));
 }
 

@@ -210,7 +210,7 @@ TEST(WertAnalyse, LeererZinsNimmtDieVoreinstellung) {
 }
 
 TEST(WertAnalyse, ZinsOhneZahlIstNull) {
-    EXPECT_EQ(Spalte(Barwert(Investition(), "abc").Tabelle, 5),
+    EXPECT_EQ(Spaltentexte(Barwert(Investition(), "abc").Tabelle, 5),
               (Zeile{"1,00000", "1,00000", "1,00000", "1,00000"}));
     EXPECT_EQ(Barwert(Investition(), "0").Aussagen->Label14, "200,00");
 }
@@ -218,11 +218,11 @@ TEST(WertAnalyse, ZinsOhneZahlIstNull) {
 // -50 %: 1 / 0,5 = 2; half a year at simple interest 0,75.
 TEST(WertAnalyse, NegativerZinsVergroessert) {
     const auto zahlungen = Zahlungen({{"01.01.2005", 0}, {"01.07.2005", 3}, {"01.01.2006", 1}});
-    EXPECT_EQ(Spalte(Barwert(zahlungen, "-50").Tabelle, 6), (Zeile{"0,00", "4,00", "2,00"}));
+    EXPECT_EQ(Spaltentexte(Barwert(zahlungen, "-50").Tabelle, 6), (Zeile{"0,00", "4,00", "2,00"}));
 }
 
 TEST(WertAnalyse, ZinsVonEinerMillion) {
-    EXPECT_EQ(Spalte(Endwert(Zahlungen({{"01.01.2005", 1}, {"01.01.2007", 1}}), "1000000").Tabelle, 6),
+    EXPECT_EQ(Spaltentexte(Endwert(Zahlungen({{"01.01.2005", 1}, {"01.01.2007", 1}}), "1000000").Tabelle, 6),
               (Zeile{"100.020.001,00", "1,00"}));
 }
 
@@ -230,7 +230,8 @@ TEST(WertAnalyse, ZinsVonMinusHundertIstEinFehlerWoEinGanzesJahrVergeht) {
     Werteingabe eingabe{Wertart::barwert, "-100", ""};
     Wertergebnis ergebnis;
     EXPECT_THROW(static_cast<void>(WertAnalyse(Investition(), eingabe, ergebnis)), Rechenfehler);
-    EXPECT_EQ(Spalte(Endwert(Investition(), "-100").Tabelle, 6), (Zeile{"0,00", "0,00", "200,00", "500,00"}));
+    EXPECT_EQ(Spaltentexte(Endwert(Investition(), "-100").Tabelle, 6),
+              (Zeile{"0,00", "0,00", "200,00", "500,00"}));
 }
 
 TEST(WertAnalyse, EinFehlerLaesstDieZeilenVorIhmUndKeineAussagen) {
@@ -239,7 +240,7 @@ TEST(WertAnalyse, EinFehlerLaesstDieZeilenVorIhmUndKeineAussagen) {
     Werteingabe eingabe{Wertart::barwert, "10", ""};
     Wertergebnis ergebnis;
     EXPECT_THROW(static_cast<void>(WertAnalyse(zahlungen, eingabe, ergebnis)), Datumsfehler);
-    EXPECT_EQ(Spalte(ergebnis.Tabelle, 0), (Zeile{"01.01.2005", "01.01.2006"}));
+    EXPECT_EQ(Spaltentexte(ergebnis.Tabelle, 0), (Zeile{"01.01.2005", "01.01.2006"}));
     EXPECT_EQ(ergebnis.Aussagen, std::nullopt);
 }
 

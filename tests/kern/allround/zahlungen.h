@@ -41,7 +41,7 @@ inline Zeilen AlleZeilen(const Zellentabelle& tabelle) {
 }
 
 /// The cells of one column from top to bottom.
-inline Zeile Spalte(const Zellentabelle& tabelle, std::size_t spalte) {
+inline Zeile Spaltentexte(const Zellentabelle& tabelle, std::size_t spalte) {
     Zeile zellen;
     for (std::size_t i = 0; i < tabelle.Zeilen(); ++i)
         zellen.push_back(tabelle.Zelle(i, spalte));

@@ -268,5 +268,11 @@ TEST(Detailansicht3, FuelltDieSeiteGenau) {
     EXPECT_TRUE(std::is_sorted(layout.kanten.begin(), layout.kanten.end()));
 }
 
+TEST(Seitenzeile, ZeilenvorschuebeTrennenZeilenUeberJederSeite) {
+    Bericht bericht = Tabellenbericht({5000, 5000}, 3);
+    bericht.seitenzeile = "Barwert   Solar\nZins : 7 %\n";
+    EXPECT_THAT(Layout(bericht).seitenzeile, ElementsAre("Barwert   Solar", "Zins : 7 %", ""));
+}
+
 }  // namespace
 }  // namespace zinfolio
