@@ -1,7 +1,6 @@
 #include "fenster/rechner/rechner.h"
 
 #include <QCloseEvent>
-#include <QLineEdit>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QTabBar>
@@ -10,17 +9,13 @@
 #include "fenster/rechner/ablage.h"
 #include "fenster/ui/bausteine.h"
 #include "fenster/ui/datumsfeld.h"
+#include "fenster/ui/eingabefeld.h"
 #include "fenster/ui/fenstergroesse.h"
 #include "fenster/ui/geschuetzt.h"
 #include "fenster/ui/meldungsfenster.h"
 
 namespace zinfolio {
 namespace {
-
-void Fokussieren(QWidget& feld) {
-    feld.setFocus();
-    if (auto* text = qobject_cast<QLineEdit*>(&feld)) text->selectAll();
-}
 
 constexpr const char* verlassentaste = "Verlassen";
 
@@ -183,7 +178,8 @@ void Rechner::Ablehnen(const Ablehnung& ablehnung) {
         bereich = TabStrip1_->widget(stelle);
     }
     if (ablehnung.Feld.empty()) return;
-    if (auto* feld = bereich->findChild<QWidget*>(QString::fromStdString(ablehnung.Feld))) Fokussieren(*feld);
+    if (auto* feld = bereich->findChild<QWidget*>(QString::fromStdString(ablehnung.Feld)))
+        ElementAnspringen(*feld);
 }
 
 void Rechner::Drucken(const std::function<Bericht()>& bilden) {

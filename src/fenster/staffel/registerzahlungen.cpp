@@ -1,14 +1,12 @@
 #include "fenster/staffel/registerzahlungen.h"
 
-#include <QCheckBox>
-#include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
 #include "fenster/ui/bausteine.h"
-#include "fenster/ui/datumsfeld.h"
+#include "fenster/ui/feldraster.h"
 #include "fenster/ui/geschuetzt.h"
 #include "fenster/ui/meldungsfenster.h"
 #include "kern/dates/zahl.h"
@@ -21,20 +19,51 @@
 namespace zinfolio {
 namespace {
 
-using Feld = Felddeskriptor<Zahlungseingabe>;
+using E = Zahlungseingabe;
 
-constexpr std::array einzelfelder{
-    Feld{"Betrag", "Zahlungs&betrag (+ / -)", Tastenfilter::betrag, "€", &Zahlungseingabe::Betrag},
-    Feld{"Beschreibung", "Besch&reibung", Tastenfilter::enter, "", &Zahlungseingabe::Beschreibung},
-    Feld{"Ratzahl", "&Anzahl Zahlungen", Tastenfilter::ganzzahl, "", &Zahlungseingabe::Ratzahl},
+constexpr std::array<std::string_view, 2> deltaeinheiten{"%", "€"};
+
+constexpr std::array feldzeilen{
+    Feld<&E::Begdatum>({.name = "Begdatum",
+                        .titel = "&Zahlungsdatum",
+                        .filter = Tastenfilter::datum,
+                        .platzhalter = "xx.yy.zzzz",
+                        .kalender = "Command6"}),
+    Feld<&E::Betrag>({.name = "Betrag",
+                      .titel = "Zahlungs&betrag (+ / -)",
+                      .filter = Tastenfilter::betrag,
+                      .einheit = "€"}),
+    Feld<&E::Beschreibung>({.name = "Beschreibung", .titel = "Besch&reibung", .laenge = 25}),
+    Feld<&E::Ratzahl>({.name = "Ratzahl", .titel = "&Anzahl Zahlungen", .filter = Tastenfilter::ganzzahl}),
+    Feld<&E::Abstand>({.name = "Abstand",
+                       .titel = "&im Abstand von",
+                       .filter = Tastenfilter::ganzzahl,
+                       .titelname = "Label22"}),
+    Feld<&E::Combo5>(
+        {.name = "Combo5", .art = Feldart::liste, .texte = abstandseinheiten, .hinter = "Abstand"}),
+    Feld<&E::Check2>({.name = "Check2",
+                      .titel = "Nachfolgende Zahlungen jeweils zum &Monatsletzten",
+                      .art = Feldart::kaestchen,
+                      .platzhaltend = true}),
+    Feld<&E::Check1>({.name = "Check1",
+                      .titel = "Mehrere Zahlungsstufen mit &Dynamisierung ?",
+                      .art = Feldart::kaestchen,
+                      .absatz = true}),
+    Feld<&E::Stufen>({.name = "Stufen",
+                      .titel = "Anzahl der S&tufen",
+                      .filter = Tastenfilter::ganzzahl,
+                      .freiMit = "Check1"}),
+    Feld<&E::Delta>({.name = "Delta",
+                     .titel = "Änderung Zahlungsbetrag &je Stufe (  +/-) :",
+                     .filter = Tastenfilter::betrag,
+                     .freiMit = "Check1"}),
+    Feld<&E::Command1>({.name = "Command1",
+                        .art = Feldart::einheit,
+                        .texte = deltaeinheiten,
+                        .hinter = "Delta",
+                        .freiMit = "Check1"}),
+    Anzeige<E>({.name = "Datumrech", .titel = "Datum der letzten Zahlung", .absatz = true}),
 };
-constexpr Feld datumsdeskriptor{"Begdatum", "", Tastenfilter::datum, "", &Zahlungseingabe::Begdatum};
-constexpr Feld abstandsdeskriptor{"Abstand", "", Tastenfilter::ganzzahl, "", &Zahlungseingabe::Abstand};
-constexpr Feld stufendeskriptor{"Stufen", "Anzahl der S&tufen", Tastenfilter::ganzzahl, "",
-                                &Zahlungseingabe::Stufen};
-constexpr Feld deltadeskriptor{"Delta", "", Tastenfilter::betrag, "", &Zahlungseingabe::Delta};
-
-constexpr int vorgeseheneBeschreibung = 25;
 
 template <const Zahlmuster& Muster>
 std::string Betragszelle(const Staffelsatz& satz) {
@@ -70,16 +99,10 @@ Tabelleninhalt Vorschautabelle(const std::vector<Staffelsatz>& zahlungen) {
     return TexttabelleBilden({{"Nr."}, {"Datum"}, {"Betrag"}}, std::move(zeilen));
 }
 
-Eingabefeld* FeldOhneZeile(const Feld& d, QWidget* eltern, Feldgruppe<Zahlungseingabe>& gruppe) {
-    Eingabefeld* feld = NeuesFeld(d.name, d.filter, eltern);
-    gruppe.Aufnehmen(feld, d.wert);
-    return feld;
-}
-
 }  // namespace
 
 RegisterZahlungen::RegisterZahlungen(const Satzdatei<Staffelsatz>& datei, QWidget* eltern)
-    : QWidget(eltern), liste_(Zahlungsliste(), datei, this) {
+    : QWidget(eltern), felder_(this), liste_(Zahlungsliste(), datei, this) {
     setObjectName("Frame1");
     rechts_ = new QStackedWidget;
     rechts_->addWidget(Listenseite());
@@ -103,8 +126,7 @@ QWidget* RegisterZahlungen::Eingabeseite() {
     anordnung->setContentsMargins(0, 0, 0, 0);
     auto* raster = new Feldraster;
     anordnung->addLayout(raster);
-    FelderAnlegen(*raster);
-    SerienfelderAnlegen(*raster);
+    felder_.Anlegen(feldzeilen, *raster);
     Label10_ = new QLabel;
     Label10_->setObjectName("Label10");
     Label10_->setWordWrap(true);
@@ -117,43 +139,6 @@ QWidget* RegisterZahlungen::Eingabeseite() {
     }));
     anordnung->addStretch();
     return seite;
-}
-
-void RegisterZahlungen::FelderAnlegen(Feldraster& raster) {
-    auto* begdatum = static_cast<Datumsfeld*>(FeldOhneZeile(datumsdeskriptor, this, felder_));
-    begdatum->setPlaceholderText("xx.yy.zzzz");
-    Command6_ = NeueTaste("Command6", "", this, [this] { DatumWaehlen(); });
-    Kalendertaste(*Command6_);
-    begdatum->OhnePruefung(Command6_);
-    raster.Zeile("&Zahlungsdatum", begdatum, Command6_);
-    for (const Feld& d : einzelfelder)
-        FeldAnlegen(d, this, raster, felder_);
-    felder_.Feld("Beschreibung")->setMaxLength(vorgeseheneBeschreibung);
-}
-
-void RegisterZahlungen::SerienfelderAnlegen(Feldraster& raster) {
-    Combo5_ = NeueAuswahl("Combo5", abstandseinheiten, this);
-    auto* abstand =
-        raster.Zeile("&im Abstand von", FeldOhneZeile(abstandsdeskriptor, this, felder_), Combo5_);
-    abstand->setObjectName("Label22");
-    Check2_ = new QCheckBox("Nachfolgende Zahlungen jeweils zum &Monatsletzten");
-    Check2_->setObjectName("Check2");
-    QSizePolicy platzhaltend = Check2_->sizePolicy();
-    platzhaltend.setRetainSizeWhenHidden(true);
-    Check2_->setSizePolicy(platzhaltend);
-    raster.GanzeZeile(Check2_);
-    raster.Absatz();
-    Check1_ = new QCheckBox("Mehrere Zahlungsstufen mit &Dynamisierung ?");
-    Check1_->setObjectName("Check1");
-    raster.GanzeZeile(Check1_);
-    FeldAnlegen(stufendeskriptor, this, raster, felder_);
-    Command1_ = NeueTaste("Command1", "%", this, [this] { EinheitUmschalten(); });
-    raster.Zeile("Änderung Zahlungsbetrag &je Stufe (  +/-) :", FeldOhneZeile(deltadeskriptor, this, felder_),
-                 Command1_);
-    raster.Absatz();
-    Datumrech_ = new QLabel;
-    Datumrech_->setObjectName("Datumrech");
-    raster.Zeile("Datum der letzten Zahlung", Datumrech_);
 }
 
 QWidget* RegisterZahlungen::Listenseite() {
@@ -183,35 +168,14 @@ void RegisterZahlungen::Verdrahten() {
         felder_.Feld("Abstand")->setText("1");
     };
     liste_.nachAendern = [this] { emit geaendert(); };
-    for (const char* name : {"Ratzahl", "Abstand", "Stufen", "Begdatum"}) {
-        connect(felder_.Feld(name), &QLineEdit::textChanged, this, &RegisterZahlungen::DatumrechZeigen);
-    }
     connect(felder_.Feld("Begdatum"), &QLineEdit::textChanged, this, &RegisterZahlungen::MonatsendeAnbieten);
-    connect(Combo5_, &QComboBox::currentIndexChanged, this, &RegisterZahlungen::DatumrechZeigen);
-    connect(Check1_, &QCheckBox::toggled, this, &RegisterZahlungen::StufenFreigeben);
-    connect(Check1_, &QCheckBox::toggled, this, &RegisterZahlungen::DatumrechZeigen);
-}
-
-Zahlungseingabe RegisterZahlungen::Lesen() const {
-    Zahlungseingabe eingabe;
-    felder_.Lesen(eingabe);
-    eingabe.Combo5 = static_cast<Abstandseinheit>(Combo5_->currentIndex());
-    eingabe.Check1 = Check1_->isChecked();
-    eingabe.Check2 = Check2_->isChecked();
-    eingabe.Command1 = Command1_->text() == "%" ? Deltaeinheit::prozent : Deltaeinheit::betrag;
-    return eingabe;
+    connect(&felder_.Tafel(), &Feldtafel::gewechselt, this, &RegisterZahlungen::DatumrechZeigen);
 }
 
 void RegisterZahlungen::Zeigen(const Zahlungseingabe& eingabe) {
     felder_.Zeigen(eingabe);
-    Combo5_->setCurrentIndex(static_cast<int>(eingabe.Combo5));
-    Check1_->setChecked(eingabe.Check1);
-    Check2_->setChecked(eingabe.Check2);
-    Command1_->setText(eingabe.Command1 == Deltaeinheit::prozent ? "%" : "€");
     AenderungsmodusSetzen(liste_.Geaendert().has_value());
-    StufenFreigeben();
     MonatsendeAnbieten();
-    DatumrechZeigen();
 }
 
 void RegisterZahlungen::NeuSchreiben() {
@@ -228,7 +192,7 @@ void RegisterZahlungen::Leeren() {
     liste_.AenderungBeenden();
     VorschauVerwerfen();
     Zeigen({});
-    felder_.Feld("Begdatum")->setFocus();
+    felder_.Fokussieren("Begdatum");
 }
 
 bool RegisterZahlungen::Pruefen(Zahlungseingabe& eingabe) {
@@ -237,13 +201,13 @@ bool RegisterZahlungen::Pruefen(Zahlungseingabe& eingabe) {
     if (!ablehnung) return true;
     MeldungZeigen(this, {.text = Anzeigetext(ablehnung->Meldung)});
     Label10_->clear();
-    felder_.Feld(ablehnung->Feld)->setFocus();
+    felder_.Fokussieren(ablehnung->Feld);
     return false;
 }
 
 void RegisterZahlungen::EingabeUebernehmen() {
     Geschuetzt(this, [this] {
-        Zahlungseingabe eingabe = Lesen();
+        Zahlungseingabe eingabe = felder_.Lesen();
         if (!Pruefen(eingabe)) return;
         if (IstZahlungsreihe(eingabe)) return VorschauZeigen(eingabe);
         Schreiben(eingabe);
@@ -277,7 +241,7 @@ void RegisterZahlungen::Schreiben(const Zahlungseingabe& eingabe) {
     // A fault on the way leaves the payments before it (wanted).
     Geschuetzt(this, [&] { ZahlungenErzeugen(eingabe, saetze); });
     liste_.Ersetzen(saetze);
-    felder_.Feld("Begdatum")->setFocus();
+    felder_.Fokussieren("Begdatum");
 }
 
 void RegisterZahlungen::Sortieren() {
@@ -298,12 +262,12 @@ void RegisterZahlungen::AenderungBeginnen() {
     eingabe.Beschreibung = NachUtf8(satz.Zahlungstext.Getrimmt());
     Zeigen(eingabe);
     Label10_->setText(QString("Zahlung %1 wird geändert.").arg(zeile + 1));
-    felder_.Feld("Begdatum")->setFocus();
+    felder_.Fokussieren("Begdatum");
 }
 
 void RegisterZahlungen::AenderungUebernehmen() {
     Geschuetzt(this, [this] {
-        Zahlungseingabe eingabe = Lesen();
+        Zahlungseingabe eingabe = felder_.Lesen();
         if (!Pruefen(eingabe)) return;
         std::vector<Staffelsatz> saetze = liste_.Saetze();
         const std::size_t zeile = liste_.Geaendert().value();
@@ -322,7 +286,7 @@ void RegisterZahlungen::AenderungBeenden() {
     liste_.AenderungBeenden();
     Label10_->clear();
     Zeigen({});
-    felder_.Feld("Begdatum")->setFocus();
+    felder_.Fokussieren("Begdatum");
 }
 
 void RegisterZahlungen::AenderungsmodusSetzen(bool an) {
@@ -330,44 +294,24 @@ void RegisterZahlungen::AenderungsmodusSetzen(bool an) {
     for (const char* name : {"übernehmen", "verwerfen"})
         findChild<QPushButton*>(name)->setVisible(an);
     rechts_->setEnabled(!an);
-    for (QWidget* feld : std::initializer_list<QWidget*>{felder_.Feld("Ratzahl"), felder_.Feld("Abstand"),
-                                                         Combo5_, Check1_, Check2_}) {
-        feld->setEnabled(!an);
-    }
+    felder_.Tafel().Sperren(
+        {"Ratzahl", "Abstand", "Combo5", "Check1", "Check2", "Stufen", "Delta", "Command1"}, an);
 }
 
 void RegisterZahlungen::DatumrechZeigen() {
+    std::string letzte;
     try {
-        Datumrech_->setText(QString::fromStdString(Datumrech(Lesen())));
+        letzte = Datumrech(felder_.Lesen());
     } catch (const std::exception&) {
         // While a field is being typed its text need not make sense yet.
-        Datumrech_->clear();
     }
+    felder_.Tafel().Setze("Datumrech", {.text = letzte});
 }
 
 void RegisterZahlungen::MonatsendeAnbieten() {
     const bool anbieten = MonatsendeAngeboten(felder_.Feld("Begdatum")->Wert());
-    Check2_->setVisible(anbieten);
-    if (!anbieten) Check2_->setChecked(false);
-}
-
-void RegisterZahlungen::StufenFreigeben() {
-    const bool frei = Check1_->isChecked() && !liste_.Geaendert();
-    for (QWidget* feld :
-         std::initializer_list<QWidget*>{felder_.Feld("Stufen"), felder_.Feld("Delta"), Command1_}) {
-        feld->setEnabled(frei);
-    }
-}
-
-void RegisterZahlungen::EinheitUmschalten() {
-    Command1_->setText(Command1_->text() == "%" ? "€" : "%");
-}
-
-void RegisterZahlungen::DatumWaehlen() {
-    if (const auto datum = KalenderFragen(*Command6_, felder_.Feld("Begdatum")->Wert())) {
-        felder_.Feld("Begdatum")->Setze(datum->Text());
-    }
-    felder_.Feld("Begdatum")->setFocus();
+    felder_.Tafel().Zeigen("Check2", anbieten);
+    if (!anbieten) felder_.Tafel().Setze("Check2", {});
 }
 
 }  // namespace zinfolio

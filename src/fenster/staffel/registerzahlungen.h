@@ -3,13 +3,10 @@
 #include <QWidget>
 
 #include "fenster/staffel/formsatzliste.h"
-#include "fenster/ui/feldraster.h"
+#include "fenster/ui/feldtafel.h"
 #include "kern/staffel/zahlungseingabe.h"
 
-class QCheckBox;
-class QComboBox;
 class QLabel;
-class QPushButton;
 class QStackedWidget;
 
 namespace zinfolio {
@@ -35,14 +32,11 @@ class RegisterZahlungen : public QWidget {
     void geaendert();
 
   private:
-    void FelderAnlegen(Feldraster& raster);
-    void SerienfelderAnlegen(Feldraster& raster);
     QWidget* Eingabeseite();
     QWidget* Listenseite();
     QWidget* Vorschauseite();
     void Verdrahten();
 
-    [[nodiscard]] Zahlungseingabe Lesen() const;
     void Zeigen(const Zahlungseingabe& eingabe);
     [[nodiscard]] bool Pruefen(Zahlungseingabe& eingabe);
 
@@ -58,18 +52,9 @@ class RegisterZahlungen : public QWidget {
     void AenderungsmodusSetzen(bool an);
     void DatumrechZeigen();
     void MonatsendeAnbieten();
-    void StufenFreigeben();
-    void EinheitUmschalten();
-    void DatumWaehlen();
 
     Feldgruppe<Zahlungseingabe> felder_;
     FormSatzliste liste_;
-    QComboBox* Combo5_ = nullptr;
-    QCheckBox* Check1_ = nullptr;
-    QCheckBox* Check2_ = nullptr;
-    QPushButton* Command1_ = nullptr;
-    QPushButton* Command6_ = nullptr;
-    QLabel* Datumrech_ = nullptr;
     QLabel* Label10_ = nullptr;
     QStackedWidget* rechts_ = nullptr;
     Tabelle* Grid2_ = nullptr;

@@ -1,14 +1,12 @@
 #include "fenster/staffel/registerzinssaetze.h"
 
-#include <QButtonGroup>
-#include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QVBoxLayout>
 #include <array>
 
 #include "fenster/ui/bausteine.h"
+#include "fenster/ui/feldraster.h"
 #include "fenster/ui/geschuetzt.h"
 #include "fenster/ui/meldungsfenster.h"
 #include "kern/dates/zahlformat.h"
@@ -20,29 +18,44 @@
 namespace zinfolio {
 namespace {
 
-using Feld = Felddeskriptor<Konditionseingabe>;
+using K = Konditionseingabe;
 
-constexpr std::array felddeskriptoren{
-    Feld{"Gültigdatum", "&Gültig ab (xx . yy . zzzz)", Tastenfilter::datum, "",
-         &Konditionseingabe::Gültigdatum},
-    Feld{"Gutzins1", "&1. Guthabenzinssatz", Tastenfilter::prozent, "%", &Konditionseingabe::Gutzins1},
-    Feld{"Gutzins2", "&2. Guthabenzinssatz", Tastenfilter::prozent, "%", &Konditionseingabe::Gutzins2},
-    Feld{"Guthabenlinie", "Gültig ab Gut&habensaldo von", Tastenfilter::prozent, "€",
-         &Konditionseingabe::Guthabenlinie},
-    Feld{"Kreditzins1", "1. &Kreditzinssatz", Tastenfilter::prozent, "%", &Konditionseingabe::Kreditzins1},
-    Feld{"Kreditzins2", "2. Kre&ditzinssatz", Tastenfilter::prozent, "%", &Konditionseingabe::Kreditzins2},
-    Feld{"Kreditlinie", "Gültig ab Kredit&saldo von", Tastenfilter::prozent, "€",
-         &Konditionseingabe::Kreditlinie},
-};
-
-template <auto Feld>
-std::string Satzzelle(const Staffelsatz& satz) {
-    return Format(satz.kondition.*Feld, konditionsmuster);
+constexpr Feldzeile<K> Satzfeld(Feldzeile<K> zeile, std::string_view einheit) {
+    zeile.beschreibung.filter = Tastenfilter::prozent;
+    zeile.beschreibung.einheit = einheit;
+    return zeile;
 }
 
-template <auto Feld>
+constexpr std::array<std::string_view, 2> geltungen{"Für den Gesamt&kontostand",
+                                                    "&Nur für den das Limit überschreitenden Betrag"};
+constexpr std::array zweitzinsarten{1, 2};
+
+constexpr std::array feldzeilen{
+    Feld<&K::Gültigdatum>(
+        {.name = "Gültigdatum", .titel = "&Gültig ab (xx . yy . zzzz)", .filter = Tastenfilter::datum}),
+    Satzfeld(Feld<&K::Gutzins1>({.name = "Gutzins1", .titel = "&1. Guthabenzinssatz"}), "%"),
+    Satzfeld(Feld<&K::Gutzins2>({.name = "Gutzins2", .titel = "&2. Guthabenzinssatz"}), "%"),
+    Satzfeld(Feld<&K::Guthabenlinie>({.name = "Guthabenlinie", .titel = "Gültig ab Gut&habensaldo von"}),
+             "€"),
+    Satzfeld(Feld<&K::Kreditzins1>({.name = "Kreditzins1", .titel = "1. &Kreditzinssatz"}), "%"),
+    Satzfeld(Feld<&K::Kreditzins2>({.name = "Kreditzins2", .titel = "2. Kre&ditzinssatz"}), "%"),
+    Satzfeld(Feld<&K::Kreditlinie>({.name = "Kreditlinie", .titel = "Gültig ab Kredit&saldo von"}), "€"),
+    Feld<&K::Zweitzinsart>({.name = "Option1",
+                            .titel = "Gültigkeit der Zweitzinssätze ",
+                            .art = Feldart::optionen,
+                            .texte = geltungen,
+                            .zahlen = zweitzinsarten,
+                            .absatz = true}),
+};
+
+template <auto Mitglied>
+std::string Satzzelle(const Staffelsatz& satz) {
+    return Format(satz.kondition.*Mitglied, konditionsmuster);
+}
+
+template <auto Mitglied>
 std::string Betragszelle(const Staffelsatz& satz) {
-    return Format(satz.kondition.*Feld, betragsmuster);
+    return Format(satz.kondition.*Mitglied, betragsmuster);
 }
 
 std::string Datumszelle(const Staffelsatz& satz) {
@@ -73,7 +86,7 @@ Satzlistenart Konditionsliste() {
 }  // namespace
 
 RegisterZinssaetze::RegisterZinssaetze(const Satzdatei<Staffelsatz>& datei, QWidget* eltern)
-    : QWidget(eltern), liste_(Konditionsliste(), datei, this) {
+    : QWidget(eltern), felder_(this), liste_(Konditionsliste(), datei, this) {
     setObjectName("Frame2");
     auto* anordnung = new QHBoxLayout(this);
     anordnung->setSpacing(18);
@@ -98,22 +111,8 @@ QWidget* RegisterZinssaetze::Eingabeseite() {
     auto* anordnung = new QVBoxLayout(seite);
     anordnung->setContentsMargins(0, 0, 0, 0);
     auto* raster = new Feldraster;
-    for (const Feld& d : felddeskriptoren)
-        FeldAnlegen(d, this, *raster, felder_);
+    felder_.Anlegen(feldzeilen, *raster);
     anordnung->addLayout(raster);
-    auto* gueltigkeit = new QGroupBox("Gültigkeit der Zweitzinssätze ");
-    auto* optionen = new QVBoxLayout(gueltigkeit);
-    Option1_ = new QButtonGroup(this);
-    const std::array texte{"Für den Gesamt&kontostand", "&Nur für den das Limit überschreitenden Betrag"};
-    for (int index = 1; index <= 2; ++index) {
-        auto* option = new QRadioButton(texte[static_cast<std::size_t>(index - 1)]);
-        option->setObjectName(QString("Option1(%1)").arg(index));
-        Option1_->addButton(option, index);
-        optionen->addWidget(option);
-    }
-    Option1_->button(1)->setChecked(true);
-    anordnung->addSpacing(6);
-    anordnung->addWidget(gueltigkeit);
     hinweis_ = new QLabel;
     anordnung->addWidget(hinweis_);
     anordnung->addLayout(Tastenzeile({
@@ -134,19 +133,6 @@ QWidget* RegisterZinssaetze::Listenseite() {
                  });
 }
 
-Konditionseingabe RegisterZinssaetze::Lesen() const {
-    Konditionseingabe eingabe;
-    felder_.Lesen(eingabe);
-    eingabe.Zweitzinsart = static_cast<std::int16_t>(Option1_->checkedId());
-    return eingabe;
-}
-
-void RegisterZinssaetze::Zeigen(const Konditionseingabe& eingabe) {
-    felder_.Zeigen(eingabe);
-    QAbstractButton* option = Option1_->button(eingabe.Zweitzinsart);
-    (option ? option : Option1_->button(2))->setChecked(true);
-}
-
 void RegisterZinssaetze::NeuSchreiben2() {
     liste_.NeuLesen();
 }
@@ -161,8 +147,8 @@ void RegisterZinssaetze::Leeren() {
 }
 
 void RegisterZinssaetze::Betreten() {
-    Option1_->button(1)->setChecked(true);
-    felder_.Feld("Gültigdatum")->setFocus();
+    felder_.Tafel().Setze("Option1", {.text = {}, .zahl = 1});
+    felder_.Fokussieren("Gültigdatum");
 }
 
 void RegisterZinssaetze::ZinssatzBegrenzen(Eingabefeld& feld) {
@@ -174,23 +160,25 @@ void RegisterZinssaetze::ZinssatzBegrenzen(Eingabefeld& feld) {
 bool RegisterZinssaetze::Pruefen(Konditionseingabe& eingabe, Doppelpruefung doppelt) {
     const Konditionspruefung pruefung = KonditionPruefen(eingabe, liste_.Saetze(), doppelt, angenommen_);
     angenommen_ = pruefung.angenommen;
-    Zeigen(eingabe);
+    felder_.Zeigen(eingabe);
     if (pruefung.hinweis) {
         MeldungZeigen(this, {.text = Anzeigetext(pruefung.hinweis->Meldung)});
-        if (!pruefung.hinweis->Feld.empty()) felder_.Feld(pruefung.hinweis->Feld)->setFocus();
+        felder_.Fokussieren(pruefung.hinweis->Feld);
     }
     return angenommen_;
 }
 
 void RegisterZinssaetze::EingabeUebernehmen() {
     Geschuetzt(this, [this] {
-        Konditionseingabe eingabe = Lesen();
+        Konditionseingabe eingabe = felder_.Lesen();
         if (!Pruefen(eingabe, Doppelpruefung::an)) return;
         std::vector<Staffelsatz> saetze = liste_.Saetze();
         saetze.push_back(KonditionErzeugen(eingabe));
         Schreiben(std::move(saetze));
-        felder_.Zeigen({});
-        felder_.Feld("Gültigdatum")->setFocus();
+        Konditionseingabe leer;
+        leer.Zweitzinsart = eingabe.Zweitzinsart;
+        felder_.Zeigen(leer);
+        felder_.Fokussieren("Gültigdatum");
     });
 }
 
@@ -201,14 +189,14 @@ void RegisterZinssaetze::Schreiben(std::vector<Staffelsatz> saetze) {
 
 void RegisterZinssaetze::AenderungBeginnen() {
     if (!liste_.AenderungBeginnen()) return;
-    Zeigen(KonditionZurEingabe(liste_.Saetze()[*liste_.Geaendert()]));
+    felder_.Zeigen(KonditionZurEingabe(liste_.Saetze()[*liste_.Geaendert()]));
     AenderungsmodusSetzen(true);
-    felder_.Feld("Gültigdatum")->setFocus();
+    felder_.Fokussieren("Gültigdatum");
 }
 
 void RegisterZinssaetze::AenderungUebernehmen() {
     Geschuetzt(this, [this] {
-        Konditionseingabe eingabe = Lesen();
+        Konditionseingabe eingabe = felder_.Lesen();
         if (!Pruefen(eingabe, Doppelpruefung::aus)) return;
         std::vector<Staffelsatz> saetze = liste_.Saetze();
         Staffelsatz& satz = saetze.at(liste_.Geaendert().value());
@@ -221,8 +209,8 @@ void RegisterZinssaetze::AenderungUebernehmen() {
 
 void RegisterZinssaetze::AenderungBeenden() {
     AenderungsmodusSetzen(false);
-    Zeigen({});
-    felder_.Feld("Gültigdatum")->setFocus();
+    felder_.Zeigen({});
+    felder_.Fokussieren("Gültigdatum");
 }
 
 void RegisterZinssaetze::AenderungsmodusSetzen(bool an) {

@@ -4,10 +4,9 @@
 #include <optional>
 
 #include "fenster/staffel/formsatzliste.h"
-#include "fenster/ui/feldraster.h"
+#include "fenster/ui/feldtafel.h"
 #include "kern/staffel/konditionseingabe.h"
 
-class QButtonGroup;
 class QLabel;
 
 namespace zinfolio {
@@ -38,8 +37,6 @@ class RegisterZinssaetze : public QWidget {
   private:
     QWidget* Eingabeseite();
     QWidget* Listenseite();
-    [[nodiscard]] Konditionseingabe Lesen() const;
-    void Zeigen(const Konditionseingabe& eingabe);
     [[nodiscard]] bool Pruefen(Konditionseingabe& eingabe, Doppelpruefung doppelt);
     void ZinssatzBegrenzen(Eingabefeld& feld);
     void EingabeUebernehmen();
@@ -51,7 +48,6 @@ class RegisterZinssaetze : public QWidget {
 
     Feldgruppe<Konditionseingabe> felder_;
     FormSatzliste liste_;
-    QButtonGroup* Option1_ = nullptr;
     QLabel* hinweis_ = nullptr;
     QWidget* listenseite_ = nullptr;
     bool angenommen_ = true;

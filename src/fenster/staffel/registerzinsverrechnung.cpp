@@ -1,29 +1,38 @@
 #include "fenster/staffel/registerzinsverrechnung.h"
 
-#include <QComboBox>
 #include <QVBoxLayout>
+#include <array>
 
-#include "fenster/ui/bausteine.h"
-#include "fenster/ui/datumsfeld.h"
 #include "fenster/ui/feldraster.h"
 
 namespace zinfolio {
+namespace {
 
-RegisterZinsverrechnung::RegisterZinsverrechnung(QWidget* eltern)
-    : QWidget(eltern),
-      Combo1_(NeueAuswahl("Combo1", zinsverrechnungsarten, this)),
-      Kontodatum_(new Datumsfeld("Kontodatum", this)),
-      Combo3_(NeueAuswahl("Combo3", verzinsungsmethoden, this)) {
+using K = Kontoeinstellungen;
+
+constexpr std::array feldzeilen{
+    Feld<&K::Zinsverrechnungsart>({.name = "Combo1",
+                                   .titel = "&Zinsverrechnung",
+                                   .art = Feldart::liste,
+                                   .texte = zinsverrechnungsarten}),
+    Feld<&K::Kontodatum>({.name = "Kontodatum",
+                          .titel = "&Datum für Kontoabschluss/-berechnung",
+                          .filter = Tastenfilter::datum,
+                          .platzhalter = "xx.yy.zzzz"}),
+    Feld<&K::Verzinsungsmethode>({.name = "Combo3",
+                                  .titel = "&Verzinsungsmethode",
+                                  .art = Feldart::liste,
+                                  .texte = verzinsungsmethoden}),
+};
+
+}  // namespace
+
+RegisterZinsverrechnung::RegisterZinsverrechnung(QWidget* eltern) : QWidget(eltern), felder_(this) {
     setObjectName("Frame3_Zinsverrechnung");
-    Combo1_->setCurrentIndex(static_cast<int>(Zinsverrechnungsart::jahresende));
-    Kontodatum_->setPlaceholderText("xx.yy.zzzz");
-    for (const QComboBox* auswahl : {Combo1_, Combo3_})
-        connect(auswahl, &QComboBox::activated, this, &RegisterZinsverrechnung::geaendert);
-    connect(Kontodatum_, &QLineEdit::textEdited, this, &RegisterZinsverrechnung::geaendert);
     auto* raster = new Feldraster;
-    raster->Zeile("&Zinsverrechnung", Combo1_);
-    raster->Zeile("&Datum für Kontoabschluss/-berechnung", Kontodatum_);
-    raster->Zeile("&Verzinsungsmethode", Combo3_);
+    felder_.Anlegen(feldzeilen, *raster);
+    felder_.Zeigen({});
+    connect(&felder_.Tafel(), &Feldtafel::bearbeitet, this, &RegisterZinsverrechnung::geaendert);
     auto* anordnung = new QVBoxLayout(this);
     auto* links = new QHBoxLayout;
     links->addLayout(raster);
@@ -33,23 +42,19 @@ RegisterZinsverrechnung::RegisterZinsverrechnung(QWidget* eltern)
 }
 
 Kontoeinstellungen RegisterZinsverrechnung::Lesen() const {
-    return {static_cast<Zinsverrechnungsart>(Combo1_->currentIndex()), Kontodatum_->Wert(),
-            static_cast<Verzinsungsmethode>(Combo3_->currentIndex())};
+    return felder_.Lesen();
 }
 
 void RegisterZinsverrechnung::Zeigen(const Kontoeinstellungswerte& werte) {
-    if (werte.Zinsverrechnungsart) Combo1_->setCurrentIndex(static_cast<int>(*werte.Zinsverrechnungsart));
-    if (werte.Kontodatum) Kontodatum_->Setze(*werte.Kontodatum);
-    if (werte.Verzinsungsmethode) Combo3_->setCurrentIndex(static_cast<int>(*werte.Verzinsungsmethode));
-}
-
-void RegisterZinsverrechnung::Fokussieren(const std::string& feld) {
-    if (feld.empty()) return;
-    if (auto* element = findChild<QWidget*>(QString::fromStdString(feld))) element->setFocus();
+    Kontoeinstellungen einstellungen = Lesen();
+    if (werte.Zinsverrechnungsart) einstellungen.Zinsverrechnungsart = *werte.Zinsverrechnungsart;
+    if (werte.Kontodatum) einstellungen.Kontodatum = *werte.Kontodatum;
+    if (werte.Verzinsungsmethode) einstellungen.Verzinsungsmethode = *werte.Verzinsungsmethode;
+    felder_.Zeigen(einstellungen);
 }
 
 void RegisterZinsverrechnung::Betreten() {
-    Combo1_->setFocus();
+    felder_.Fokussieren("Combo1");
 }
 
 }  // namespace zinfolio

@@ -2,13 +2,10 @@
 
 #include <QWidget>
 
+#include "fenster/ui/feldtafel.h"
 #include "kern/staffel/kontoeinstellungen.h"
 
-class QComboBox;
-
 namespace zinfolio {
-
-class Datumsfeld;
 
 /// The tab "Zinsverrechnung": how often interest is settled, by which method, and when the account closes.
 class RegisterZinsverrechnung : public QWidget {
@@ -22,9 +19,6 @@ class RegisterZinsverrechnung : public QWidget {
     /// Shows the values that are there and leaves the other controls as they are.
     void Zeigen(const Kontoeinstellungswerte& werte);
 
-    /// Puts the focus on the control of that name, if it is on this tab.
-    void Fokussieren(const std::string& feld);
-
     /// What selecting the tab does.
     void Betreten();
 
@@ -33,9 +27,7 @@ class RegisterZinsverrechnung : public QWidget {
     void geaendert();
 
   private:
-    QComboBox* Combo1_;
-    Datumsfeld* Kontodatum_;
-    QComboBox* Combo3_;
+    Feldgruppe<Kontoeinstellungen> felder_;
 };
 
 }  // namespace zinfolio

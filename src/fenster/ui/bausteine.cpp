@@ -1,8 +1,6 @@
 #include "fenster/ui/bausteine.h"
 
-#include <QCalendarWidget>
 #include <QComboBox>
-#include <QDialog>
 #include <QEvent>
 #include <QLabel>
 #include <QPushButton>
@@ -11,8 +9,6 @@
 
 #include "fenster/ui/geschuetzt.h"
 #include "fenster/ui/meldungsfenster.h"
-#include "fenster/ui/symbol.h"
-#include "fenster/ui/uhr.h"
 
 namespace zinfolio {
 namespace {
@@ -41,9 +37,9 @@ QPushButton* NeueTaste(const char* name, const QString& beschriftung, QWidget* e
     return taste;
 }
 
-QComboBox* NeueAuswahl(const char* name, std::span<const std::string_view> texte, QWidget* eltern) {
+QComboBox* NeueAuswahl(std::string_view name, std::span<const std::string_view> texte, QWidget* eltern) {
     auto* auswahl = new QComboBox(eltern);
-    auswahl->setObjectName(QString::fromUtf8(name));
+    auswahl->setObjectName(Anzeigetext(name));
     for (const std::string_view text : texte)
         auswahl->addItem(Anzeigetext(text));
     auswahl->setFocusPolicy(Qt::StrongFocus);
@@ -94,32 +90,6 @@ void TabfolgeSetzen(const QWidget& form, std::initializer_list<const char*> name
         if (vorher) QWidget::setTabOrder(vorher, element);
         vorher = element;
     }
-}
-
-void Kalendertaste(QPushButton& taste) {
-    taste.setFocusPolicy(Qt::ClickFocus);
-    taste.setShortcut(Qt::Key_F4);
-    taste.setIcon(Symbol("kalender"));
-    taste.setToolTip("Datum im Kalender wählen (F4)");
-    taste.setAccessibleName("Kalender");
-}
-
-std::optional<Datum> KalenderFragen(QWidget& unter, const std::string& datumstext) {
-    QDialog fenster(&unter, Qt::Popup);
-    QCalendarWidget kalender(&fenster);
-    kalender.setObjectName("mview");
-    kalender.setDateRange(QDate(Datum::erstesJahr, 1, 1), QDate(Datum::letztesJahr, 12, 31));
-    const Datum anfang = Datum::Versuche(datumstext).value_or(Heute());
-    kalender.setSelectedDate(QDate(anfang.Jahr(), anfang.Monat(), anfang.Tag()));
-    auto* anordnung = new QVBoxLayout(&fenster);
-    anordnung->setContentsMargins(1, 1, 1, 1);
-    anordnung->addWidget(&kalender);
-    QObject::connect(&kalender, &QCalendarWidget::activated, &fenster, &QDialog::accept);
-    QObject::connect(&kalender, &QCalendarWidget::clicked, &fenster, &QDialog::accept);
-    fenster.move(unter.mapToGlobal(QPoint(0, unter.height())));
-    if (fenster.exec() != QDialog::Accepted) return std::nullopt;
-    const QDate gewaehlt = kalender.selectedDate();
-    return Datum::Aus(gewaehlt.year(), gewaehlt.month(), gewaehlt.day());
 }
 
 }  // namespace zinfolio

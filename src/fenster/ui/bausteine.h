@@ -3,12 +3,8 @@
 
 #include <functional>
 #include <initializer_list>
-#include <optional>
 #include <span>
-#include <string>
 #include <string_view>
-
-#include "kern/dates/datum.h"
 
 class QComboBox;
 class QHBoxLayout;
@@ -24,7 +20,7 @@ namespace zinfolio {
                                      const std::function<void()>& wirkung);
 
 /// A list to choose from, with the texts of the core. The wheel changes it only where it has the focus.
-[[nodiscard]] QComboBox* NeueAuswahl(const char* name, std::span<const std::string_view> texte,
+[[nodiscard]] QComboBox* NeueAuswahl(std::string_view name, std::span<const std::string_view> texte,
                                      QWidget* eltern);
 
 /// A figure shown large, which the user can select and copy.
@@ -41,12 +37,5 @@ namespace zinfolio {
 
 /// Makes Tab go through the children of `form` with these names, in this order.
 void TabfolgeSetzen(const QWidget& form, std::initializer_list<const char*> namen);
-
-/// Makes a button the calendar button behind a date field: by click or F4, passed over by Tab and Enter.
-void Kalendertaste(QPushButton& taste);
-
-/// Opens the month calendar (`mview`) below a widget and waits for a date; nothing where it is closed without
-/// one. It starts at the date of `datumstext`, else at today.
-[[nodiscard]] std::optional<Datum> KalenderFragen(QWidget& unter, const std::string& datumstext);
 
 }  // namespace zinfolio

@@ -1,7 +1,9 @@
 #include "fenster/ui/datumsfeld.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QFocusEvent>
+#include <QKeyEvent>
 
 #include "fenster/ui/meldungsfenster.h"
 #include "fenster/ui/uhr.h"
@@ -37,7 +39,7 @@ void Datumsfeld::focusOutEvent(QFocusEvent* ereignis) {
     const auto grund = ereignis->reason();
     if (grund == Qt::ActiveWindowFocusReason || grund == Qt::PopupFocusReason || pruefungLaeuft_) return;
     const QWidget* neues = QApplication::focusWidget();
-    if (begleiter_ && neues == begleiter_) return;
+    if (kalender_ && neues == kalender_) return;
     if (DarfVerlassenWerden()) return;
     klickSchlucken_ = grund == Qt::MouseFocusReason;
     setFocus();
@@ -48,8 +50,22 @@ bool Datumsfeld::focusNextPrevChild(bool vorwaerts) {
     return !DarfVerlassenWerden() || Eingabefeld::focusNextPrevChild(vorwaerts);
 }
 
+void Datumsfeld::Weiter() {
+    Eingabefeld::Weiter();
+    if (!kalender_ || !kalender_->hasFocus()) return;
+    QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
+    QCoreApplication::sendEvent(kalender_, &tab);
+}
+
+void Datumsfeld::keyPressEvent(QKeyEvent* ereignis) {
+    if (kalender_ && ereignis->key() == Qt::Key_F4)
+        kalender_->click();
+    else
+        Eingabefeld::keyPressEvent(ereignis);
+}
+
 bool Datumsfeld::WuerdeVerlassen(QObject* ziel, const QEvent& ereignis) const {
-    if (ziel == begleiter_) return false;
+    if (ziel == kalender_) return false;
     if (ereignis.type() == QEvent::Shortcut) return true;
     if (ereignis.type() != QEvent::MouseButtonPress) return false;
     const auto* fenster = qobject_cast<QWidget*>(ziel);

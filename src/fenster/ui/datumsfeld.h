@@ -2,6 +2,8 @@
 
 #include "fenster/ui/eingabefeld.h"
 
+class QAbstractButton;
+
 namespace zinfolio {
 
 /// A date field: what was typed is completed to tt.mm.jjjj when the field is left. A text that is no date
@@ -13,22 +15,25 @@ class Datumsfeld : public Eingabefeld {
   public:
     explicit Datumsfeld(const QString& name, QWidget* eltern = nullptr);
 
-    /// Lets a widget (a calendar button) take the focus without the check.
-    void OhnePruefung(QWidget* begleiter) { begleiter_ = begleiter; }
+    /// The button that opens the month view for this field: a click on it comes without the check, F4 presses
+    /// it, and Enter passes it over.
+    void MitKalender(QAbstractButton* taste) { kalender_ = taste; }
 
     /// Checks the text as leaving the field does; true where the field may be left.
     bool DarfVerlassenWerden();
 
   protected:
+    void keyPressEvent(QKeyEvent* ereignis) override;
     void focusInEvent(QFocusEvent* ereignis) override;
     void focusOutEvent(QFocusEvent* ereignis) override;
     bool focusNextPrevChild(bool vorwaerts) override;
+    void Weiter() override;
     bool eventFilter(QObject* ziel, QEvent* ereignis) override;
 
   private:
     [[nodiscard]] bool WuerdeVerlassen(QObject* ziel, const QEvent& ereignis) const;
 
-    QWidget* begleiter_ = nullptr;
+    QAbstractButton* kalender_ = nullptr;
     bool pruefungLaeuft_ = false;
     bool klickSchlucken_ = false;
 };

@@ -62,7 +62,17 @@ void Eingabefeld::Anwenden(const Tastenantwort& antwort, QKeyEvent* ereignis) {
         QLineEdit::keyPressEvent(&gefiltert);
     }
     if (antwort.caretAnsEnde) end(false);
-    if (antwort.naechstesFeld) focusNextPrevChild(true);
+    if (antwort.naechstesFeld) Weiter();
+}
+
+void Eingabefeld::Weiter() {
+    focusNextPrevChild(true);
+}
+
+void Eingabefeld::Anspringen() {
+    setFocus();
+    ersteTaste_ = false;
+    selectAll();
 }
 
 void Eingabefeld::focusInEvent(QFocusEvent* ereignis) {
@@ -77,6 +87,13 @@ void Eingabefeld::focusInEvent(QFocusEvent* ereignis) {
 void Eingabefeld::mousePressEvent(QMouseEvent* ereignis) {
     QLineEdit::mousePressEvent(ereignis);
     if (std::exchange(durchMausBetreten_, false)) selectAll();
+}
+
+void ElementAnspringen(QWidget& element) {
+    if (auto* feld = qobject_cast<Eingabefeld*>(&element))
+        feld->Anspringen();
+    else
+        element.setFocus();
 }
 
 }  // namespace zinfolio

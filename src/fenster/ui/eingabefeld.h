@@ -19,10 +19,17 @@ class Eingabefeld : public QLineEdit {
     [[nodiscard]] std::string Wert() const { return text().toStdString(); }
     void Setze(const std::string& wert) { setText(QString::fromStdString(wert)); }
 
+  public slots:
+    /// Takes the focus with the whole text selected, whatever had it: the next key replaces the text.
+    void Anspringen();
+
   protected:
     void keyPressEvent(QKeyEvent* ereignis) override;
     void focusInEvent(QFocusEvent* ereignis) override;
     void mousePressEvent(QMouseEvent* ereignis) override;
+
+    /// Moves the focus on, as Enter does.
+    virtual void Weiter();
 
   private:
     void Anwenden(const Tastenantwort& antwort, QKeyEvent* ereignis);
@@ -31,5 +38,8 @@ class Eingabefeld : public QLineEdit {
     ErsteTaste ersteTaste_ = false;
     bool durchMausBetreten_ = false;
 };
+
+/// Puts the focus on a control of a form; a text field has its whole text selected then.
+void ElementAnspringen(QWidget& element);
 
 }  // namespace zinfolio

@@ -8,6 +8,8 @@
 #include <QKeyEvent>
 #include <QRadioButton>
 
+#include "fenster/ui/umschalttaste.h"
+
 namespace zinfolio {
 namespace {
 
@@ -17,7 +19,7 @@ bool IstEnter(const QKeyEvent& ereignis) {
 
 bool IstAuswahl(const QWidget& element) {
     return qobject_cast<const QComboBox*>(&element) || qobject_cast<const QCheckBox*>(&element) ||
-           qobject_cast<const QRadioButton*>(&element);
+           qobject_cast<const QRadioButton*>(&element) || qobject_cast<const Umschalttaste*>(&element);
 }
 
 }  // namespace

@@ -2,43 +2,45 @@
 
 #include <QLabel>
 
-#include "fenster/ui/datumsfeld.h"
-
 namespace zinfolio {
+namespace {
+
+constexpr int feldspalte = 1;
+
+}  // namespace
 
 Feldraster::Feldraster(QWidget* eltern) : QGridLayout(eltern) {
-    setColumnStretch(1, 1);
-    setColumnMinimumWidth(1, 190);
+    setColumnStretch(feldspalte, 1);
+    setColumnMinimumWidth(feldspalte, 190);
     setHorizontalSpacing(10);
     setVerticalSpacing(7);
 }
 
-QLabel* Feldraster::Zeile(const QString& beschriftung, QWidget* feld, QWidget* dahinter) {
-    auto* titel = new QLabel(beschriftung);
+QLabel* Feldraster::Zeile(const QString& beschriftung, QWidget* feld) {
+    auto* titel = new QLabel(beschriftung, feld->parentWidget());
     titel->setBuddy(feld);
-    addWidget(titel, naechste_, 0);
-    addWidget(feld, naechste_, 1);
-    if (dahinter) addWidget(dahinter, naechste_, 2, Qt::AlignLeft);
-    ++naechste_;
+    Titelzeile(titel);
+    Dahinter(LetzteZeile(), feld);
     return titel;
 }
 
-QLabel* Feldraster::Zeile(const QString& beschriftung, QWidget* feld, const QString& einheit) {
-    return Zeile(beschriftung, feld, einheit.isEmpty() ? nullptr : new QLabel(einheit));
+void Feldraster::GanzeZeile(QWidget* element) {
+    addWidget(element, naechste_++, 0, 1, -1);
 }
 
-void Feldraster::GanzeZeile(QWidget* element) {
-    addWidget(element, naechste_++, 0, 1, 3);
+void Feldraster::Titelzeile(QWidget* titel) {
+    addWidget(titel, naechste_++, 0);
+}
+
+void Feldraster::Dahinter(int zeile, QWidget* element) {
+    int spalte = feldspalte;
+    while (itemAtPosition(zeile, spalte))
+        ++spalte;
+    addWidget(element, zeile, spalte, spalte == feldspalte ? Qt::Alignment() : Qt::AlignLeft);
 }
 
 void Feldraster::Absatz() {
     setRowMinimumHeight(naechste_++, 8);
-}
-
-Eingabefeld* NeuesFeld(const char* name, Tastenfilter filter, QWidget* eltern) {
-    const QString text = QString::fromUtf8(name);
-    if (filter == Tastenfilter::datum) return new Datumsfeld(text, eltern);
-    return new Eingabefeld(text, filter, eltern);
 }
 
 }  // namespace zinfolio
