@@ -37,6 +37,7 @@ class Zeilenbau {
     }
 
     void Umbrechen() {
+        zeile_.erase(zeile_.find_last_not_of(' ') + 1);
         zeilen_.push_back(std::exchange(zeile_, {}));
         breite_ = 0;
     }
@@ -105,7 +106,7 @@ std::vector<std::string> Textmass::InZeilen(std::string_view text, double platz)
             zeilen.Umbrechen();
             wort.remove_prefix(teil);
         }
-        if (!wort.empty()) zeilen.Wort(wort, Messen(wort).ganz, Vorschub(U' '));
+        zeilen.Wort(wort, Messen(wort).ganz, Vorschub(U' '));
     }
     return zeilen.Ergebnis();
 }

@@ -26,7 +26,8 @@ class Textmass {
 
     [[nodiscard]] Textbreiten Messen(std::string_view text) const;
 
-    /// The lines of a text in a column, at least one. Lines break at blanks, which vanish there; a word that
+    /// The lines of a text in a column, at least one. Lines break at blanks, which vanish there and
+    /// nowhere else; a word that
     /// is wider than the column breaks between characters.
     [[nodiscard]] std::vector<std::string> InZeilen(std::string_view text, double platz) const;
 

@@ -54,6 +54,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Umbruchfall{"Miete Mai", 850, {"Miete Mai"}},
                     Umbruchfall{"Miete Mai", 840, {"Miete", "Mai"}}, Umbruchfall{"a b c", 250, {"a b", "c"}},
                     Umbruchfall{"a bb c dd", 350, {"a bb", "c dd"}},
+                    Umbruchfall{"a  b c", 300, {"a  b", "c"}},
                     Umbruchfall{"Miete  Mai", 500, {"Miete", "Mai"}}, Umbruchfall{" Miete", 500, {"Miete"}},
                     Umbruchfall{"Miete ", 500, {"Miete"}}, Umbruchfall{"    ", 100, {""}}));
 
