@@ -13,6 +13,8 @@ namespace {
 constexpr double kopfblockbreite = 5.8 * twipsJeZoll;
 constexpr double zeichenbreite = 100;
 constexpr std::size_t meisteKopfspalten = 6;
+/// At four points, the smallest type of a report, its narrowest columns fill the page.
+constexpr std::size_t meisteSeitenspalten = 35;
 constexpr std::string_view jahresspalte = "^+1.0in";
 constexpr std::string_view satzspalte = "|^1.6in";
 
@@ -41,6 +43,15 @@ Berichtstabelle Tabelle(std::shared_ptr<const Faktortabelle> tabelle) {
 }
 
 }  // namespace
+
+std::optional<Ablehnung> FaktortabellenberichtPruefen(const Faktortabelle& tabelle) {
+    if (tabelle.Spalten() <= meisteSeitenspalten) return std::nullopt;
+    return Ablehnung{
+        "Die Tabelle hat " + std::to_string(tabelle.Spalten() - 1) +
+            " Zinssätze. Auf eine Seite passen höchstens " + std::to_string(meisteSeitenspalten - 1) +
+            ". Bitte wählen Sie zum Drucken einen kleineren Bereich oder eine größere Schrittweite.",
+        "Pro2", ""};
+}
 
 Bericht FaktortabellenberichtBilden(const Faktorwahl& wahl, std::shared_ptr<const Faktortabelle> tabelle) {
     const Finanzfaktortext& text = Faktortext(wahl.faktor);

@@ -71,6 +71,32 @@ TEST(Faktortabellenbericht, OhneTabelleBleibtDerKopfblock) {
     EXPECT_TRUE(FaktortabellenberichtBilden(wahl, std::make_shared<Faktortabelle>()).tabelle.spalten.empty());
 }
 
+TEST(Faktortabellenbericht, WasAufKeineSeitePasstWirdAbgelehnt) {
+    const auto tabelle = [](const char* bis) {
+        Faktortabelle t;
+        EXPECT_EQ(FaktortabelleRechnen({wahl, Schrittweite::ganz, "1", bis, "1", "1"}, t), std::nullopt);
+        return t;
+    };
+    EXPECT_EQ(FaktortabellenberichtPruefen(tabelle("34")), std::nullopt);
+    EXPECT_EQ(
+        FaktortabellenberichtPruefen(tabelle("35")),
+        (Ablehnung{
+            "Die Tabelle hat 35 Zinssätze. Auf eine Seite passen höchstens 34. Bitte wählen Sie zum Drucken "
+            "einen kleineren Bereich oder eine größere Schrittweite.",
+            "Pro2", ""}));
+}
+
+TEST(Einzelfaktorbericht, LaesstDieLeerzeichenDesSatzesStehen) {
+    Einzelfaktoreingabe eingabe{wahl, "4,5", "15", "12000"};
+    eingabe.wahl.faktor = Finanzfaktor::DSF;
+    Einzelfaktor ergebnis;
+    ASSERT_EQ(EinzelfaktorRechnen(eingabe, ergebnis), std::nullopt);
+    std::string text;
+    for (const std::string& zeile : EinzelfaktorberichtBilden(eingabe, ergebnis).kopfblock)
+        text += zeile + " ";
+    EXPECT_NE(text.find("vorschüssig Alle 2 Monate  ausbezahlt wird"), std::string::npos) << text;
+}
+
 TEST(Einzelfaktorbericht, NenntEingabenErgebnisUndSatz) {
     const Einzelfaktoreingabe eingabe{wahl, "4,5", "15", "12000"};
     Einzelfaktor ergebnis;
