@@ -41,8 +41,10 @@ _raum("fenster/hilfe", "kern/grund", "fenster/ui")
 _raum("fenster/ausgabe", "kern/grund", "kern/dateien", "kern/dates", "kern/richtext", "kern/bericht", "fenster/ui")
 _RAHMEN = ("fenster/ui", "fenster/hilfe", "fenster/ausgabe")
 _raum("fenster/rechner", *_UNTEN, *_RAHMEN)
-for _rechner in ("staffel", "sparen", "allround", "tabellen"):
+for _rechner in ("staffel", "allround", "tabellen"):
     _raum(f"fenster/{_rechner}", *_KERN, *_RAHMEN, "fenster/rechner")
+# The savings calculators open the quick ones.
+_raum("fenster/sparen", *_KERN, *_RAHMEN, "fenster/rechner", "fenster/tabellen")
 _raum("fenster/start", *(raum for raum in RAEUME if not raum.startswith("stapel/")))
 
 # Foreign headers, and the rooms or wings that may include them.

@@ -14,6 +14,7 @@
 #include "fenster/staffel/form48000.h"
 #include "fenster/start/programmstart.h"
 #include "fenster/start/rechnertaste.h"
+#include "fenster/tabellen/form14005.h"
 #include "fenster/ui/bausteine.h"
 #include "fenster/ui/geschuetzt.h"
 #include "fenster/ui/symbol.h"
@@ -47,7 +48,7 @@ constexpr std::array reihenrechner{
     Rechnereintrag{"Effektivzinsrechner", "Effektivzinsrechner", "Effektivzinsrechner",
                    "Rendite, Barwert, Tilgungsplan", "reihe"},
     Rechnereintrag{"Finanztabellen", "Finanzmathematische Tabellen", "Finanztabellen",
-                   "Die sechs Faktoren als Tafel und einzeln", "tabelle"},
+                   "Die sechs Faktoren als Tafel und einzeln", "tabelle", Anlegen<Form14005>},
 };
 constexpr std::array sparrechner{
     Rechnereintrag{"R1", "Endkapital Ratensparen", "Endkapital", "Was ein Sparplan am Ende ergibt", "sparen"},

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include "fenster/ui/geschuetzt.h"
@@ -80,6 +81,19 @@ QWidget* Rollbar(QWidget* seite) {
     rahmen->setFrameShape(QFrame::NoFrame);
     rahmen->setWidgetResizable(true);
     rahmen->setWidget(seite);
+    return rahmen;
+}
+
+QWidget* Rollspalte(QWidget* inhalt) {
+    auto* rahmen = new QScrollArea;
+    rahmen->setFrameShape(QFrame::NoFrame);
+    rahmen->setWidgetResizable(true);
+    rahmen->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    rahmen->setWidget(inhalt);
+    // What lies below shines through: the column is a part of its page.
+    rahmen->viewport()->setAutoFillBackground(false);
+    inhalt->setAutoFillBackground(false);
+    rahmen->setFixedWidth(inhalt->sizeHint().width() + rahmen->verticalScrollBar()->sizeHint().width());
     return rahmen;
 }
 

@@ -35,6 +35,9 @@ namespace zinfolio {
 /// A page that scrolls where the window is too small for it.
 [[nodiscard]] QWidget* Rollbar(QWidget* seite);
 
+/// A column of its content's width that scrolls up and down where the window is too low for it.
+[[nodiscard]] QWidget* Rollspalte(QWidget* inhalt);
+
 /// Makes Tab go through the children of `form` with these names, in this order.
 void TabfolgeSetzen(const QWidget& form, std::initializer_list<const char*> namen);
 

@@ -72,7 +72,8 @@ void Tabelle::AuswahlKopieren() const {
 }
 
 int Tabelle::Spaltenbreite(int spalte) const {
-    constexpr int stichprobe = 200;
+    // Not all cells are measured: a few of each column, and fewer where there are thousands of columns.
+    const int stichprobe = std::clamp(20000 / modell_->columnCount(), 1, 200);
     const QFontMetrics schrift(font());
     const int zeilen = modell_->rowCount();
     const int schritt = std::max(1, zeilen / stichprobe);
