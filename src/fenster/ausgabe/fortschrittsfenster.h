@@ -13,7 +13,8 @@ class Fortschrittsfenster {
   public:
     enum class Abbruch { moeglich, unmoeglich };
 
-    Fortschrittsfenster(QWidget* fenster, const QString& text, Abbruch abbruch);
+    Fortschrittsfenster(QWidget* fenster, const QString& text, Abbruch abbruch,
+                        const QString& titel = "Export");
     Fortschrittsfenster(const Fortschrittsfenster&) = delete;
     Fortschrittsfenster& operator=(const Fortschrittsfenster&) = delete;
     ~Fortschrittsfenster() = default;

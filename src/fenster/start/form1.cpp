@@ -11,6 +11,7 @@
 #include "fenster/hilfe/hilfefenster.h"
 #include "fenster/hilfe/impressum.h"
 #include "fenster/hilfe/netzwege.h"
+#include "fenster/sparen/sparrechner.h"
 #include "fenster/staffel/form48000.h"
 #include "fenster/start/programmstart.h"
 #include "fenster/start/rechnertaste.h"
@@ -51,13 +52,13 @@ constexpr std::array reihenrechner{
                    "Die sechs Faktoren als Tafel und einzeln", "tabelle", Anlegen<Form14005>},
 };
 constexpr std::array sparrechner{
-    Rechnereintrag{"R1", "Endkapital Ratensparen", "Endkapital", "Was ein Sparplan am Ende ergibt", "sparen"},
+    Rechnereintrag{"R1", "Endkapital Ratensparen", "Endkapital", "Was ein Sparplan am Ende ergibt", "sparen", Anlegen<Form90000>},
     Rechnereintrag{"R2", "Höhe einer Sparrate beim Ratensparen", "Sparrate",
-                   "Wie viel regelmäßig zu sparen ist", "sparen"},
-    Rechnereintrag{"R3", "Rendite beim Ratensparen", "Rendite", "Was ein Sparplan wirklich bringt", "sparen"},
-    Rechnereintrag{"R4", "Anspardauer beim Ratensparen", "Anspardauer", "Wie lange zu sparen ist", "sparen"},
+                   "Wie viel regelmäßig zu sparen ist", "sparen", Anlegen<Form94000>},
+    Rechnereintrag{"R3", "Rendite beim Ratensparen", "Rendite", "Was ein Sparplan wirklich bringt", "sparen", Anlegen<Form92000>},
+    Rechnereintrag{"R4", "Anspardauer beim Ratensparen", "Anspardauer", "Wie lange zu sparen ist", "sparen", Anlegen<Form96000>},
     Rechnereintrag{"R5", "Benötigtes Anfangskapital beim Ratensparen", "Anfangskapital",
-                   "Womit zu beginnen ist", "sparen"},
+                   "Womit zu beginnen ist", "sparen", Anlegen<Form99000>},
 };
 
 /// Room for three columns of buttons in the user's font, as far as the screen has it.

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "fenster/rechner/planablage.h"
+#include "fenster/rechner/rechner.h"
+#include "kern/sparen/plandateien.h"
+#include "kern/sparen/sparrechnung.h"
+
+namespace zinfolio {
+
+class RegisterNotizen;
+class Sparergebnisseite;
+class Sparfelder;
+class Zinstabellenseite;
+
+/// The window of a savings calculator, whichever: the fields of a plan on the first tab, its result on the
+/// second, its notes on the third, the short calculator behind the fourth. Selecting the second tab
+/// calculates; nothing else does. What a form is stands in its descriptor.
+class Sparrechner : public Rechner {
+    Q_OBJECT
+
+  public:
+    /// Opens with the plan that was chosen last. A `Dateifehler` where the working folder cannot be used.
+    Sparrechner(const Sparform& form, const std::filesystem::path& arbeitsordner);
+
+  private:
+    [[nodiscard]] static Rechnerart Art(const Sparform& form);
+    [[nodiscard]] std::vector<Registerzeile> Registerzeilen();
+    [[nodiscard]] Planart Plaene();
+    [[nodiscard]] static Planindex Index(const Planverzeichnis& plaene);
+    void Verdrahten();
+
+    [[nodiscard]] Sparplan Lesen() const;
+    void Zeigen(const Sparplan& plan);
+    void PlanLaden(int nummer);
+    void Speicherung(int nummer);
+
+    void Berechnen();
+    [[nodiscard]] std::optional<Ablehnung> PlanRechnen();
+    void InTabelleAblehnen(const Ablehnung& ablehnung);
+    void EffzinsBerechnen();
+    [[nodiscard]] Sparberichtsdaten Berichtsdaten() const;
+    void TextZeigen();
+    void GrafikZeigen();
+
+    const Sparform& form_;
+    std::filesystem::path ordner_;
+    Plandateien dateien_;
+    Sparstand stand_;
+    Sparfelder* felder_;
+    Sparergebnisseite* ergebnis_;
+    RegisterNotizen* notizen_;
+    /// None where the rate of a plan never changes.
+    Zinstabellenseite* zinstabelle_ = nullptr;
+};
+
+/// One class a form, so that the start screen opens each by its type.
+template <Sparziel ziel>
+class SparrechnerFuer : public Sparrechner {
+  public:
+    explicit SparrechnerFuer(const std::filesystem::path& arbeitsordner)
+        : Sparrechner(SparformVon(ziel), arbeitsordner) {}
+};
+
+using Form90000 = SparrechnerFuer<Sparziel::endkapital>;
+using Form94000 = SparrechnerFuer<Sparziel::sparrate>;
+using Form92000 = SparrechnerFuer<Sparziel::rendite>;
+using Form96000 = SparrechnerFuer<Sparziel::anspardauer>;
+using Form99000 = SparrechnerFuer<Sparziel::anfangskapital>;
+
+}  // namespace zinfolio
