@@ -116,10 +116,9 @@ QWidget* Sparergebnisseite::Ausgabezeile() {
     auto* leiste = new QWidget;
     auto* zeile = new QHBoxLayout(leiste);
     zeile->setContentsMargins(0, 0, 0, 0);
-    zeile->addWidget(NeueTaste("Command8", mitText ? "Dru&cken 1" : "Dru&cken", this,
-                               [this] { emit druckenVerlangt(); }));
-    if (mitText)
-        zeile->addWidget(NeueTaste("Drucken", "Drucken &2", this, [this] { emit textVerlangt(); }));
+    zeile->addWidget(
+        NeueTaste("Command8", mitText ? "Dru&cken 1" : "Dru&cken", this, [this] { emit druckenVerlangt(); }));
+    if (mitText) zeile->addWidget(NeueTaste("Drucken", "Drucken &2", this, [this] { emit textVerlangt(); }));
     zeile->addWidget(NeueTaste("Command4", "&Grafik", this, [this] { emit grafikVerlangt(); }));
     zeile->addStretch();
     return leiste;

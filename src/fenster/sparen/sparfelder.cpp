@@ -29,11 +29,10 @@ struct Kuerzel {
     char buchstabe;
 };
 constexpr std::array kuerzel{
-    Kuerzel{&sparfeld::AnfVermögen, 'f'}, Kuerzel{&sparfeld::ratdatum1, 'n'},
-    Kuerzel{&sparfeld::Betrag, 'h'},      Kuerzel{&sparfeld::Combo1, 'w'},
-    Kuerzel{&sparfeld::Check2, 'y'},      Kuerzel{&sparfeld::Zins, 'l'},
-    Kuerzel{&sparfeld::Combo2, 'g'},      Kuerzel{&sparfeld::Combo4, 'v'},
-    Kuerzel{&sparfeld::Vwert, 'm'},       Kuerzel{&sparfeld::Vermendwert, 'm'},
+    Kuerzel{&sparfeld::AnfVermögen, 'f'}, Kuerzel{&sparfeld::ratdatum1, 'n'}, Kuerzel{&sparfeld::Betrag, 'h'},
+    Kuerzel{&sparfeld::Combo1, 'w'},      Kuerzel{&sparfeld::Check2, 'y'},    Kuerzel{&sparfeld::Zins, 'l'},
+    Kuerzel{&sparfeld::Combo2, 'g'},      Kuerzel{&sparfeld::Combo4, 'v'},    Kuerzel{&sparfeld::Vwert, 'm'},
+    Kuerzel{&sparfeld::Vermendwert, 'm'},
 };
 
 QString Beschriftung(const Formzeile& zeile) {
@@ -108,8 +107,22 @@ QWidget* Sparfelder::Abschnitt(const char* titel, Sparabschnitt abschnitt) {
     auto* gruppe = new QGroupBox(QString::fromUtf8(titel));
     auto* raster = new Feldraster;
     gruppe->setLayout(raster);
+    // The captions of one column end at one place.
+    raster->setColumnMinimumWidth(0, Beschriftungsbreite(abschnitt));
     FelderAnlegen(*raster, abschnitt);
     return gruppe;
+}
+
+int Sparfelder::Beschriftungsbreite(Sparabschnitt abschnitt) const {
+    const bool links = abschnitt == Sparabschnitt::plan || abschnitt == Sparabschnitt::ziel;
+    int breite = 0;
+    for (const Formzeile& zeile : form_.felder) {
+        const bool dort = zeile.abschnitt == Sparabschnitt::plan || zeile.abschnitt == Sparabschnitt::ziel;
+        if (links != dort || zeile.feld->art == Sparfeldart::haken || zeile.feld == &sparfeld::Combo5)
+            continue;
+        breite = std::max(breite, fontMetrics().horizontalAdvance(Beschriftung(zeile)));
+    }
+    return breite;
 }
 
 QWidget* Sparfelder::Tastenleiste() {
@@ -120,8 +133,8 @@ QWidget* Sparfelder::Tastenleiste() {
     if (form_.dynamik == Dynamik::mitGrenzen)
         zeile->addWidget(NeueTaste("Command6", "&Berechnen", this, [this] { emit berechnenVerlangt(); }));
     if (form_.zinstabelle) {
-        zeile->addWidget(
-            NeueTaste("Zinssatzänderungen", "&Zinssatzänderungen", this, [this] { emit zinstabelleVerlangt(); }));
+        zeile->addWidget(NeueTaste("Zinssatzänderungen", "&Zinssatzänderungen", this,
+                                   [this] { emit zinstabelleVerlangt(); }));
         Image1_ = new QLabel("✓ Der Plan enthält Zinssatzänderungen.");
         Image1_->setObjectName("Image1(1)");
         zeile->addWidget(Image1_);
@@ -152,8 +165,9 @@ void Sparfelder::FelderAnlegen(Feldraster& raster, Sparabschnitt abschnitt) {
 void Sparfelder::TextfeldAnlegen(const Formzeile& zeile, Feldraster& raster) {
     const std::string name(zeile.feld->name);
     Eingabefeld* feld = NeuesFeld(name.c_str(), Filter(zeile.feld->art), this);
-    bindungen_.push_back({[feld, glied = zeile.feld->text](Sparplan& plan) { plan.*glied = feld->Wert(); },
-                          [feld, glied = zeile.feld->text](const Sparplan& plan) { feld->Setze(plan.*glied); }});
+    bindungen_.push_back(
+        {[feld, glied = zeile.feld->text](Sparplan& plan) { plan.*glied = feld->Wert(); },
+         [feld, glied = zeile.feld->text](const Sparplan& plan) { feld->Setze(plan.*glied); }});
     connect(feld, &QLineEdit::textEdited, this, &Sparfelder::geaendert);
     if (auto* datumsfeld = qobject_cast<Datumsfeld*>(feld)) {
         raster.Zeile(Beschriftung(zeile), feld, Kalender(zeile, *datumsfeld));
@@ -206,9 +220,8 @@ QCheckBox* Sparfelder::NeuerHaken(const Formzeile& zeile) {
     auto* haken = new QCheckBox(Beschriftung(zeile), this);
     haken->setObjectName(Anzeigetext(zeile.feld->name));
     const auto glied = zeile.feld->zahl;
-    bindungen_.push_back(
-        {[haken, glied](Sparplan& plan) { plan.*glied = haken->isChecked() ? 1 : 0; },
-         [haken, glied](const Sparplan& plan) { haken->setChecked(plan.*glied == 1); }});
+    bindungen_.push_back({[haken, glied](Sparplan& plan) { plan.*glied = haken->isChecked() ? 1 : 0; },
+                          [haken, glied](const Sparplan& plan) { haken->setChecked(plan.*glied == 1); }});
     connect(haken, &QCheckBox::clicked, this, &Sparfelder::geaendert);
     if (zeile.feld == &sparfeld::Check1) Check1_ = haken;
     return haken;
@@ -283,7 +296,8 @@ void Sparfelder::GrenzenFreigeben() {
                                std::pair(&sparfeld::Check4, &sparfeld::MaxSparrate),
                                std::pair(&sparfeld::Check5, &sparfeld::MinSparrate)};
     for (const auto& [haken, grenze] : paare) {
-        if (QWidget* feld = Feld(*grenze)) feld->setEnabled(static_cast<QCheckBox*>(Feld(*haken))->isChecked());
+        if (QWidget* feld = Feld(*grenze))
+            feld->setEnabled(static_cast<QCheckBox*>(Feld(*haken))->isChecked());
     }
 }
 

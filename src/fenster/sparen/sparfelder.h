@@ -51,6 +51,8 @@ class Sparfelder : public QWidget {
     [[nodiscard]] QWidget* LinkeSpalte();
     [[nodiscard]] QWidget* RechteSpalte();
     [[nodiscard]] QWidget* Abschnitt(const char* titel, Sparabschnitt abschnitt);
+    /// Room for the captions of the column in which a section stands.
+    [[nodiscard]] int Beschriftungsbreite(Sparabschnitt abschnitt) const;
     [[nodiscard]] QWidget* Tastenleiste();
     void FelderAnlegen(Feldraster& raster, Sparabschnitt abschnitt);
     void TextfeldAnlegen(const Formzeile& zeile, Feldraster& raster);

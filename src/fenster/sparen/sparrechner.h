@@ -3,6 +3,7 @@
 #include "fenster/rechner/planablage.h"
 #include "fenster/rechner/rechner.h"
 #include "kern/sparen/plandateien.h"
+#include "kern/sparen/sparbericht.h"
 #include "kern/sparen/sparrechnung.h"
 
 namespace zinfolio {

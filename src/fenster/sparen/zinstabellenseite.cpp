@@ -62,6 +62,7 @@ QWidget* Zinstabellenseite::Zeilenblock(std::size_t von, std::size_t bis) {
         ZinsWDAt_[i] = datum;
         Zinsbetrag_[i] = betrag;
     }
+    raster->setRowStretch(static_cast<int>(bis - von) + 1, 1);
     return block;
 }
 

@@ -52,11 +52,14 @@ constexpr std::array reihenrechner{
                    "Die sechs Faktoren als Tafel und einzeln", "tabelle", Anlegen<Form14005>},
 };
 constexpr std::array sparrechner{
-    Rechnereintrag{"R1", "Endkapital Ratensparen", "Endkapital", "Was ein Sparplan am Ende ergibt", "sparen", Anlegen<Form90000>},
+    Rechnereintrag{"R1", "Endkapital Ratensparen", "Endkapital", "Was ein Sparplan am Ende ergibt", "sparen",
+                   Anlegen<Form90000>},
     Rechnereintrag{"R2", "Höhe einer Sparrate beim Ratensparen", "Sparrate",
                    "Wie viel regelmäßig zu sparen ist", "sparen", Anlegen<Form94000>},
-    Rechnereintrag{"R3", "Rendite beim Ratensparen", "Rendite", "Was ein Sparplan wirklich bringt", "sparen", Anlegen<Form92000>},
-    Rechnereintrag{"R4", "Anspardauer beim Ratensparen", "Anspardauer", "Wie lange zu sparen ist", "sparen", Anlegen<Form96000>},
+    Rechnereintrag{"R3", "Rendite beim Ratensparen", "Rendite", "Was ein Sparplan wirklich bringt", "sparen",
+                   Anlegen<Form92000>},
+    Rechnereintrag{"R4", "Anspardauer beim Ratensparen", "Anspardauer", "Wie lange zu sparen ist", "sparen",
+                   Anlegen<Form96000>},
     Rechnereintrag{"R5", "Benötigtes Anfangskapital beim Ratensparen", "Anfangskapital",
                    "Womit zu beginnen ist", "sparen", Anlegen<Form99000>},
 };

@@ -135,8 +135,7 @@ std::vector<std::string> Eingabeblock(const Sparberichtsdaten& daten) {
                                effektivmethoden[static_cast<std::size_t>(daten.plan.Combo5)]));
         zeilen.push_back(Zeile("Effektivzinssatz", *daten.ezins + " %"));
     }
-    if (daten.form->ziel == Sparziel::rendite)
-        zeilen.push_back(Zeile("Nominalzins", daten.Nzins + " %"));
+    if (daten.form->ziel == Sparziel::rendite) zeilen.push_back(Zeile("Nominalzins", daten.Nzins + " %"));
     const Kontosummen summen = KontosummenBilden(Saetze(daten), Sparansichtsregel(*daten.form));
     zeilen.push_back(Zeile("Gesamtzahlungssumme", summen.Gesamtzahlungssumme));
     zeilen.push_back(Zeile("Gesamtzinsen", summen.Gesamtzinsen));
