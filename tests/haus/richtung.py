@@ -40,7 +40,7 @@ _raum("fenster/ui", "kern/grund", "kern/dateien", "kern/dates", "kern/richtext",
 _raum("fenster/hilfe", "kern/grund", "fenster/ui")
 _raum("fenster/ausgabe", "kern/grund", "kern/dateien", "kern/dates", "kern/richtext", "kern/bericht", "fenster/ui")
 _RAHMEN = ("fenster/ui", "fenster/hilfe", "fenster/ausgabe")
-_raum("fenster/rechner", *_UNTEN, *_RAHMEN)
+_raum("fenster/rechner", *_UNTEN, "kern/staffel", *_RAHMEN)
 for _rechner in ("staffel", "allround", "tabellen"):
     _raum(f"fenster/{_rechner}", *_KERN, *_RAHMEN, "fenster/rechner")
 # The savings calculators open the quick ones.

@@ -1,9 +1,9 @@
 #include "fenster/staffel/form48000.h"
 
+#include "fenster/rechner/registerberechnung.h"
 #include "fenster/rechner/registernotizen.h"
-#include "fenster/staffel/registerberechnung.h"
+#include "fenster/rechner/registerzahlungen.h"
 #include "fenster/staffel/registereffektivzins.h"
-#include "fenster/staffel/registerzahlungen.h"
 #include "fenster/staffel/registerzinssaetze.h"
 #include "fenster/staffel/registerzinsverrechnung.h"
 #include "kern/staffel/effektivdateien.h"

@@ -3,7 +3,7 @@
 #include <QWidget>
 #include <optional>
 
-#include "fenster/staffel/formsatzliste.h"
+#include "fenster/rechner/formsatzliste.h"
 #include "fenster/ui/feldtafel.h"
 #include "kern/staffel/konditionseingabe.h"
 

@@ -1,4 +1,4 @@
-#include "fenster/staffel/formsatzliste.h"
+#include "fenster/rechner/formsatzliste.h"
 
 #include <QAction>
 #include <algorithm>

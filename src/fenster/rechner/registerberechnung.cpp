@@ -1,4 +1,4 @@
-#include "fenster/staffel/registerberechnung.h"
+#include "fenster/rechner/registerberechnung.h"
 
 #include <QComboBox>
 #include <QLabel>

@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-#include "fenster/staffel/formsatzliste.h"
+#include "fenster/rechner/formsatzliste.h"
 #include "fenster/ui/feldtafel.h"
 #include "kern/staffel/zahlungseingabe.h"
 

@@ -1,4 +1,4 @@
-#include "fenster/staffel/registerzahlungen.h"
+#include "fenster/rechner/registerzahlungen.h"
 
 #include <QLabel>
 #include <QPushButton>
