@@ -10,95 +10,149 @@
 #include "fenster/ui/tabelle.h"
 
 namespace zinfolio {
+namespace {
 
-RegisterBerechnung::RegisterBerechnung(QWidget* eltern)
+constexpr std::array summenzeilen{
+    Kennzahlzeile{"Gesamtzahlungssumme", "Gesamtzahlungssumme"},
+    Kennzahlzeile{"Geszins", "Gesamtzinsen"},
+    Kennzahlzeile{"EV", "Endvermögen"},
+};
+
+bool Gibt(const char* name) {
+    return *name != '\0';
+}
+
+}  // namespace
+
+RegisterBerechnung::RegisterBerechnung(Auszugsart art, QWidget* eltern)
     : QWidget(eltern),
+      art_(std::move(art)),
       loesung_(std::make_shared<const std::vector<Staffelsatz>>()),
-      Combo4_(NeueAuswahl("Combo4", kontoansichten, this)),
-      Gesamtzahlungssumme_(NeueKennzahl("Gesamtzahlungssumme", this)),
-      Geszins_(NeueKennzahl("Geszins", this)),
-      EV_(NeueKennzahl("EV", this)),
+      ansicht_(NeueAuswahl(art_.ansicht, kontoansichten, this)),
+      methode_(NeueAuswahl(art_.methode, effektivmethoden, this)),
       ezins_(NeueKennzahl("ezins", this)),
-      Label26_(new QLabel("Effektivzinssatz", this)),
-      Label28_(new QLabel("%", this)),
-      Combo6_(NeueAuswahl("Combo6", effektivmethoden, this)),
-      Command5_(NeueTaste("Command5", "&Effektivzinssatz berechnen", this,
-                          [this] { emit effektivzinsVerlangt(); })),
-      Command13_(NeueTaste("Command13", "Dru&cken", this, [this] { emit druckenVerlangt(); })),
-      Grafik_(NeueTaste("Grafik", "&Grafik", this, [this] { emit grafikVerlangt(); })),
       Grid_(new Tabelle("Grid", this)) {
-    setObjectName("Frame4");
+    setObjectName(art_.rahmen);
     auto* anordnung = new QVBoxLayout(this);
     anordnung->addWidget(Kopfzeile());
     anordnung->addWidget(Effektivzeile());
-    anordnung->addWidget(Seite(Grid_, {Command13_, Grafik_}), 1);
-    connect(Combo4_, &QComboBox::currentIndexChanged, this, &RegisterBerechnung::AnsichtZeigen);
+    anordnung->addWidget(Auszugseite(), 1);
+    connect(ansicht_, &QComboBox::currentIndexChanged, this, &RegisterBerechnung::AnsichtZeigen);
+    connect(methode_, &QComboBox::activated, this, &RegisterBerechnung::methodeGewaehlt);
+    Leeren();
+}
+
+QPushButton* RegisterBerechnung::Ergebnistaste(const char* name, const char* beschriftung, Signal signal) {
+    QPushButton* taste =
+        NeueTaste(name, QString::fromUtf8(beschriftung), this, [this, signal] { emit(this->*signal)(); });
+    tasten_.push_back(taste);
+    return taste;
 }
 
 QWidget* RegisterBerechnung::Kopfzeile() {
     auto* kopf = new QWidget;
     auto* zeile = new QHBoxLayout(kopf);
     zeile->setContentsMargins(0, 0, 0, 0);
-    auto* ansicht = new QLabel("&Ansicht");
-    ansicht->setBuddy(Combo4_);
+    auto* ansicht = new QLabel(QString::fromUtf8(art_.ansichttitel));
+    ansicht->setBuddy(ansicht_);
     zeile->addWidget(ansicht);
-    zeile->addWidget(Combo4_);
+    zeile->addWidget(ansicht_);
     zeile->addStretch();
-    const std::initializer_list<std::pair<const char*, QLabel*>> summen{
-        {"Gesamtzahlungssumme", Gesamtzahlungssumme_}, {"Gesamtzinsen", Geszins_}, {"Endvermögen", EV_}};
-    for (const auto& [titel, wert] : summen) {
-        auto* spalte = new QVBoxLayout;
-        spalte->setSpacing(0);
-        spalte->addWidget(new QLabel(QString::fromUtf8(titel)), 0, Qt::AlignRight);
-        spalte->addWidget(wert, 0, Qt::AlignRight);
-        zeile->addSpacing(24);
-        zeile->addLayout(spalte);
-    }
+    for (const Kennzahlzeile& kennzahl : art_.kennzahlen)
+        KennzahlAnlegen(*zeile, kennzahl);
+    for (const Kennzahlzeile& summe : summenzeilen)
+        KennzahlAnlegen(*zeile, summe);
     return kopf;
 }
 
+void RegisterBerechnung::KennzahlAnlegen(QHBoxLayout& zeile, const Kennzahlzeile& kennzahl) {
+    auto* titel = new QLabel(QString::fromUtf8(kennzahl.titel), this);
+    QLabel* wert = NeueKennzahl(kennzahl.name, this);
+    kennzahlen_[kennzahl.name] = {wert, titel};
+    auto* spalte = new QVBoxLayout;
+    spalte->setSpacing(0);
+    spalte->addWidget(titel, 0, Qt::AlignRight);
+    spalte->addWidget(wert, 0, Qt::AlignRight);
+    zeile.addSpacing(24);
+    zeile.addLayout(spalte);
+}
+
 QWidget* RegisterBerechnung::Effektivzeile() {
-    Label26_->setObjectName("Label26");
-    Label28_->setObjectName("Label28");
-    Combo6_->setCurrentIndex(static_cast<int>(Effektivmethode::pangv2000) - 1);
     auto* leiste = new QWidget;
     auto* zeile = new QHBoxLayout(leiste);
     zeile->setContentsMargins(0, 0, 0, 0);
     auto* methode = new QLabel("Effektivzinssatzberechnungs&methode");
-    methode->setBuddy(Combo6_);
-    for (QWidget* element : std::initializer_list<QWidget*>{methode, Combo6_, Command5_})
-        zeile->addWidget(element);
+    methode->setBuddy(methode_);
+    zeile->addWidget(methode);
+    zeile->addWidget(methode_);
+    if (Gibt(art_.rechnen)) {
+        zeile->addWidget(Ergebnistaste(art_.rechnen, "&Effektivzinssatz berechnen",
+                                       &RegisterBerechnung::effektivzinsVerlangt));
+    }
     zeile->addStretch();
-    for (QWidget* element : std::initializer_list<QWidget*>{Label26_, ezins_, Label28_})
-        zeile->addWidget(element);
+    auto* titel = new QLabel("Effektivzinssatz", this);
+    titel->setObjectName(art_.effektivtitel);
+    auto* einheit = new QLabel("%", this);
+    einheit->setObjectName("Label28");
+    effektivteile_ = {titel, ezins_, einheit};
+    for (QLabel* teil : effektivteile_)
+        zeile->addWidget(teil);
+    EffektivmethodeWaehlen(Effektivmethode::pangv2000);
     EffektivzinsVerbergen();
     return leiste;
+}
+
+QWidget* RegisterBerechnung::Auszugseite() {
+    std::vector<QPushButton*> reihe{
+        Ergebnistaste(art_.drucken, art_.druckentext, &RegisterBerechnung::druckenVerlangt),
+        Ergebnistaste(art_.grafik, "&Grafik", &RegisterBerechnung::grafikVerlangt),
+    };
+    for (const Auszugtaste& taste : art_.tasten) {
+        reihe.push_back(NeueTaste(taste.name, QString::fromUtf8(taste.beschriftung), this, taste.wirkung));
+        tasten_.push_back(reihe.back());
+    }
+    return Seite(Grid_, reihe);
 }
 
 void RegisterBerechnung::EffektivzinsZeigen(const std::string& ezins, Effektivmethode methode) {
     effektivmethode_ = methode;
     ezins_->setText(QString::fromStdString(ezins));
-    for (QLabel* teil : {Label26_, ezins_, Label28_})
+    for (QLabel* teil : effektivteile_)
         teil->show();
 }
 
 void RegisterBerechnung::EffektivzinsVerbergen() {
     ezins_->clear();
-    for (QLabel* teil : {Label26_, ezins_, Label28_})
+    for (QLabel* teil : effektivteile_)
         teil->hide();
 }
 
 Effektivmethode RegisterBerechnung::GewaehlteEffektivmethode() const {
-    return static_cast<Effektivmethode>(Combo6_->currentIndex() + 1);
+    return static_cast<Effektivmethode>(methode_->currentIndex() + 1);
+}
+
+void RegisterBerechnung::EffektivmethodeWaehlen(Effektivmethode methode) {
+    methode_->setCurrentIndex(static_cast<int>(methode) - 1);
+}
+
+Kontoansicht RegisterBerechnung::Ansicht() const {
+    return static_cast<Kontoansicht>(ansicht_->currentIndex());
+}
+
+void RegisterBerechnung::KennzahlZeigen(const char* name, const std::string& text) {
+    const auto [wert, titel] = kennzahlen_.at(name);
+    wert->setText(QString::fromStdString(text));
+    wert->setVisible(!text.empty());
+    titel->setVisible(!text.empty());
 }
 
 void RegisterBerechnung::Zeigen(std::vector<Staffelsatz> loesung) {
     loesung_ = std::make_shared<const std::vector<Staffelsatz>>(std::move(loesung));
     TastenFreigeben(true);
-    const Kontosummen summen = KontosummenBilden(*loesung_);
-    Gesamtzahlungssumme_->setText(Anzeigetext(summen.Gesamtzahlungssumme));
-    EV_->setText(Anzeigetext(summen.Endvermögen));
-    Geszins_->setText(Anzeigetext(summen.Gesamtzinsen));
+    const Kontosummen summen = KontosummenBilden(*loesung_, art_.regel);
+    kennzahlen_.at("Gesamtzahlungssumme").first->setText(Anzeigetext(summen.Gesamtzahlungssumme));
+    kennzahlen_.at("EV").first->setText(Anzeigetext(summen.Endvermögen));
+    kennzahlen_.at("Geszins").first->setText(Anzeigetext(summen.Gesamtzinsen));
     AnsichtZeigen();
 }
 
@@ -106,13 +160,15 @@ void RegisterBerechnung::Leeren() {
     loesung_ = std::make_shared<const std::vector<Staffelsatz>>();
     ezins_->clear();
     TastenFreigeben(false);
-    for (QLabel* summe : {Gesamtzahlungssumme_, EV_, Geszins_})
-        summe->clear();
+    for (const auto& [name, kennzahl] : kennzahlen_)
+        kennzahl.first->clear();
+    for (const Kennzahlzeile& kennzahl : art_.kennzahlen)
+        KennzahlZeigen(kennzahl.name, {});
     AnsichtZeigen();
 }
 
 void RegisterBerechnung::TastenFreigeben(bool frei) {
-    for (QPushButton* taste : {Command5_, Command13_, Grafik_})
+    for (QPushButton* taste : tasten_)
         taste->setEnabled(frei);
 }
 
@@ -121,16 +177,16 @@ Kontoberichtsdaten RegisterBerechnung::Berichtsdaten() const {
     daten.ezins = ezins_->text().toStdString();
     daten.effektivmethode = Effektivmethodentext(effektivmethode_);
     daten.loesung = loesung_;
-    daten.ansicht = static_cast<Kontoansicht>(Combo4_->currentIndex());
+    daten.ansicht = Ansicht();
     return daten;
 }
 
 void RegisterBerechnung::KurzformWaehlen() {
-    Combo4_->setCurrentIndex(static_cast<int>(Kontoansicht::kurzform));
+    ansicht_->setCurrentIndex(static_cast<int>(Kontoansicht::kurzform));
 }
 
 void RegisterBerechnung::AnsichtZeigen() {
-    Grid_->Zeige(AnsichtBilden(static_cast<Kontoansicht>(Combo4_->currentIndex()), loesung_));
+    Grid_->Zeige(AnsichtBilden(Ansicht(), loesung_, art_.regel));
 }
 
 }  // namespace zinfolio

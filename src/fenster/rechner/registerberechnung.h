@@ -1,13 +1,18 @@
 #pragma once
 
 #include <QWidget>
+#include <functional>
+#include <map>
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "kern/finmath/effektivmethode.h"
+#include "kern/staffel/kontoansicht.h"
 #include "kern/staffel/kontobericht.h"
 
 class QComboBox;
+class QHBoxLayout;
 class QLabel;
 class QPushButton;
 
@@ -15,12 +20,42 @@ namespace zinfolio {
 
 class Tabelle;
 
-/// The tab "Zinsstaffel berechnen": the statement in one of four views, with its totals.
+/// A figure of a calculator's own, shown before the totals.
+struct Kennzahlzeile {
+    const char* name;
+    const char* titel;
+};
+
+/// A button of a calculator's own, behind "Drucken" and "Grafik".
+struct Auszugtaste {
+    const char* name;
+    const char* beschriftung;
+    std::function<void()> wirkung;
+};
+
+/// What differs between the statements of the calculators: fixed names, captions, rules. A button without a
+/// name is not there.
+struct Auszugsart {
+    const char* rahmen = "Frame4";
+    const char* ansicht = "Combo4";
+    const char* ansichttitel = "&Ansicht";
+    const char* methode = "Combo6";
+    const char* rechnen = "Command5";
+    const char* drucken = "Command13";
+    const char* druckentext = "Dru&cken";
+    const char* grafik = "Grafik";
+    const char* effektivtitel = "Label26";
+    Ansichtsregel regel = {};
+    std::vector<Kennzahlzeile> kennzahlen = {};
+    std::vector<Auszugtaste> tasten = {};
+};
+
+/// The statement of a calculated account in one of four views, with its totals and its effective rate.
 class RegisterBerechnung : public QWidget {
     Q_OBJECT
 
   public:
-    explicit RegisterBerechnung(QWidget* eltern);
+    RegisterBerechnung(Auszugsart art, QWidget* eltern);
 
     /// Shows a calculated account: totals and the chosen view.
     void Zeigen(std::vector<Staffelsatz> loesung);
@@ -31,15 +66,21 @@ class RegisterBerechnung : public QWidget {
     /// Goes back to the view "Kurzform".
     void KurzformWaehlen();
 
+    /// Shows a figure of the calculator's own; an empty text hides it.
+    void KennzahlZeigen(const char* name, const std::string& text);
+
     /// Shows a rate beside the totals; hides it again.
     void EffektivzinsZeigen(const std::string& ezins, Effektivmethode methode);
     void EffektivzinsVerbergen();
 
     [[nodiscard]] const std::vector<Staffelsatz>& Loesung() const { return *loesung_; }
+    [[nodiscard]] Kontoansicht Ansicht() const;
 
-    /// What this tab knows of a report: view, rows, totals and rate as they are shown.
+    /// What this tab knows of a report: view, rows and rate as they are shown.
     [[nodiscard]] Kontoberichtsdaten Berichtsdaten() const;
+
     [[nodiscard]] Effektivmethode GewaehlteEffektivmethode() const;
+    void EffektivmethodeWaehlen(Effektivmethode methode);
 
     /// The method of the rate that is shown; another choice counts from the next calculation on.
     [[nodiscard]] Effektivmethode GerechneteEffektivmethode() const { return effektivmethode_; }
@@ -49,28 +90,33 @@ class RegisterBerechnung : public QWidget {
     void effektivzinsVerlangt();
     void druckenVerlangt();
     void grafikVerlangt();
+    /// The user has chosen a method.
+    void methodeGewaehlt();
 
   private:
+    using Signal = void (RegisterBerechnung::*)();
+
+    QPushButton* Ergebnistaste(const char* name, const char* beschriftung, Signal signal);
     QWidget* Kopfzeile();
+    void KennzahlAnlegen(QHBoxLayout& zeile, const Kennzahlzeile& kennzahl);
     QWidget* Effektivzeile();
+    QWidget* Auszugseite();
     void AnsichtZeigen();
     void TastenFreigeben(bool frei);
 
+    Auszugsart art_;
     /// Shared with the reports made of it.
     std::shared_ptr<const std::vector<Staffelsatz>> loesung_;
     Effektivmethode effektivmethode_ = Effektivmethode::pangv2000;
-    QComboBox* Combo4_;
-    QLabel* Gesamtzahlungssumme_;
-    QLabel* Geszins_;
-    QLabel* EV_;
+    QComboBox* ansicht_;
+    QComboBox* methode_;
     QLabel* ezins_;
-    QLabel* Label26_;
-    QLabel* Label28_;
-    QComboBox* Combo6_;
-    QPushButton* Command5_;
-    QPushButton* Command13_;
-    QPushButton* Grafik_;
+    std::vector<QLabel*> effektivteile_;
     Tabelle* Grid_;
+    /// By their names, with their captions.
+    std::map<std::string, std::pair<QLabel*, QLabel*>> kennzahlen_;
+    /// What needs an account.
+    std::vector<QPushButton*> tasten_;
 };
 
 }  // namespace zinfolio

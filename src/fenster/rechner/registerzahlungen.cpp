@@ -4,6 +4,9 @@
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <array>
+#include <memory>
 
 #include "fenster/ui/bausteine.h"
 #include "fenster/ui/feldraster.h"
@@ -22,6 +25,34 @@ namespace {
 using E = Zahlungseingabe;
 
 constexpr std::array<std::string_view, 2> deltaeinheiten{"%", "€"};
+
+constexpr Feldzeile<E> Stufenfeld(unsigned formen, std::string_view gruppe = {}) {
+    return Feld<&E::Stufen>({.name = "Stufen",
+                             .titel = "Anzahl der S&tufen",
+                             .filter = Tastenfilter::ganzzahl,
+                             .gruppe = gruppe,
+                             .freiMit = "Check1",
+                             .formen = formen});
+}
+
+constexpr Feldzeile<E> Deltafeld(unsigned formen, std::string_view titel, std::string_view gruppe = {}) {
+    return Feld<&E::Delta>({.name = "Delta",
+                            .titel = titel,
+                            .filter = Tastenfilter::betrag,
+                            .gruppe = gruppe,
+                            .freiMit = "Check1",
+                            .formen = formen});
+}
+
+constexpr Feldzeile<E> Einheitstaste(unsigned formen, std::string_view gruppe = {}) {
+    return Feld<&E::Command1>({.name = "Command1",
+                               .art = Feldart::einheit,
+                               .texte = deltaeinheiten,
+                               .hinter = "Delta",
+                               .gruppe = gruppe,
+                               .freiMit = "Check1",
+                               .formen = formen});
+}
 
 constexpr std::array feldzeilen{
     Feld<&E::Begdatum>({.name = "Begdatum",
@@ -49,25 +80,19 @@ constexpr std::array feldzeilen{
                       .titel = "Mehrere Zahlungsstufen mit &Dynamisierung ?",
                       .art = Feldart::kaestchen,
                       .absatz = true}),
-    Feld<&E::Stufen>({.name = "Stufen",
-                      .titel = "Anzahl der S&tufen",
-                      .filter = Tastenfilter::ganzzahl,
-                      .freiMit = "Check1"}),
-    Feld<&E::Delta>({.name = "Delta",
-                     .titel = "Änderung Zahlungsbetrag &je Stufe (  +/-) :",
-                     .filter = Tastenfilter::betrag,
-                     .freiMit = "Check1"}),
-    Feld<&E::Command1>({.name = "Command1",
-                        .art = Feldart::einheit,
-                        .texte = deltaeinheiten,
-                        .hinter = "Delta",
-                        .freiMit = "Check1"}),
+    // The account frees these rows by the box, the series shows them by it.
+    Stufenfeld(Zahlungsregisterart::konto),
+    Deltafeld(Zahlungsregisterart::konto, "Änderung Zahlungsbetrag &je Stufe (  +/-) :"),
+    Einheitstaste(Zahlungsregisterart::konto),
+    Rahmen<E>({.name = "Frame2", .sichtbarMit = "Check1", .formen = Zahlungsregisterart::reihe}),
+    Stufenfeld(Zahlungsregisterart::reihe, "Frame2"),
+    Deltafeld(Zahlungsregisterart::reihe, "Änderung Zahlungsbetrag &je Stufe (+ / -)", "Frame2"),
+    Einheitstaste(Zahlungsregisterart::reihe, "Frame2"),
     Anzeige<E>({.name = "Datumrech", .titel = "Datum der letzten Zahlung", .absatz = true}),
 };
 
-template <const Zahlmuster& Muster>
 std::string Betragszelle(const Staffelsatz& satz) {
-    return Format(satz.Zahlbetrag, Muster);
+    return Format(satz.Zahlbetrag, betragsmuster);
 }
 
 std::string Datumszelle(const Staffelsatz& satz) {
@@ -81,7 +106,7 @@ std::string Textzelle(const Staffelsatz& satz) {
 Satzlistenart Zahlungsliste() {
     return {"List1",
             {{.kopf = "Datum", .zelle = Datumszelle, .art = Zellart::datum},
-             {.kopf = "Betrag €", .zelle = Betragszelle<betragsmuster>},
+             {.kopf = "Betrag €", .zelle = Betragszelle},
              {.kopf = "Beschreibung",
               .zelle = Textzelle,
               .art = Zellart::text,
@@ -90,19 +115,27 @@ Satzlistenart Zahlungsliste() {
             meldung::zahlungenLoeschen};
 }
 
-/// A numbered table of a series.
-Tabelleninhalt Vorschautabelle(const std::vector<Staffelsatz>& zahlungen) {
-    std::vector<std::vector<std::string>> zeilen;
-    for (const Staffelsatz& satz : zahlungen)
-        zeilen.push_back(
-            {std::to_string(zeilen.size() + 1), Datumszelle(satz), Betragszelle<vorschaumuster>(satz)});
-    return TexttabelleBilden({{"Nr."}, {"Datum"}, {"Betrag"}}, std::move(zeilen));
+/// A numbered table of a series that has so many payments a stage.
+Tabelleninhalt Vorschautabelle(std::shared_ptr<const std::vector<Staffelsatz>> zahlungen,
+                               std::size_t zahlungenJeStufe, const Zahlungsregisterart& art) {
+    Tabelleninhalt tabelle;
+    tabelle.spalten = {{std::string(art.nummernkopf)}, {"Datum", Zellart::datum}, {"Betrag"}};
+    tabelle.zeilen = zahlungen->size();
+    tabelle.zelle = [zahlungen = std::move(zahlungen), zahlungenJeStufe, folgemuster = art.folgemuster](
+                        std::size_t zeile, std::size_t spalte) {
+        const Staffelsatz& satz = (*zahlungen)[zeile];
+        if (spalte == 0) return std::to_string(zeile + 1);
+        if (spalte == 1) return Datumszelle(satz);
+        return Format(satz.Zahlbetrag, zeile % zahlungenJeStufe == 0 ? vorschaumuster : folgemuster);
+    };
+    return tabelle;
 }
 
 }  // namespace
 
-RegisterZahlungen::RegisterZahlungen(const Satzdatei<Staffelsatz>& datei, QWidget* eltern)
-    : QWidget(eltern), felder_(this), liste_(Zahlungsliste(), datei, this) {
+RegisterZahlungen::RegisterZahlungen(const Zahlungsregisterart& art, const Satzdatei<Staffelsatz>& datei,
+                                     QWidget* eltern)
+    : QWidget(eltern), art_(art), felder_(this), liste_(Zahlungsliste(), datei, this) {
     setObjectName("Frame1");
     rechts_ = new QStackedWidget;
     rechts_->addWidget(Listenseite());
@@ -126,7 +159,7 @@ QWidget* RegisterZahlungen::Eingabeseite() {
     anordnung->setContentsMargins(0, 0, 0, 0);
     auto* raster = new Feldraster;
     anordnung->addLayout(raster);
-    felder_.Anlegen(feldzeilen, *raster);
+    felder_.Anlegen(feldzeilen, *raster, art_.form);
     Label10_ = new QLabel;
     Label10_->setObjectName("Label10");
     Label10_->setWordWrap(true);
@@ -196,7 +229,7 @@ void RegisterZahlungen::Leeren() {
 }
 
 bool RegisterZahlungen::Pruefen(Zahlungseingabe& eingabe) {
-    const auto ablehnung = ZahlungseingabePruefen(eingabe);
+    const auto ablehnung = ZahlungseingabePruefen(eingabe, art_.nullbetrag);
     Zeigen(eingabe);
     if (!ablehnung) return true;
     MeldungZeigen(this, {.text = Anzeigetext(ablehnung->Meldung)});
@@ -215,10 +248,11 @@ void RegisterZahlungen::EingabeUebernehmen() {
 }
 
 void RegisterZahlungen::VorschauZeigen(const Zahlungseingabe& eingabe) {
+    auto zahlungen = std::make_shared<std::vector<Staffelsatz>>();
+    ZahlungenErzeugen(eingabe, *zahlungen);
+    const double raten = std::max(1.0, Zahlwert(eingabe.Ratzahl));
+    Grid2_->Zeige(Vorschautabelle(std::move(zahlungen), static_cast<std::size_t>(raten), art_));
     vorgesehen_ = eingabe;
-    vorschau_.clear();
-    ZahlungenErzeugen(eingabe, vorschau_);
-    Grid2_->Zeige(Vorschautabelle(vorschau_));
     Label10_->setText("Vorschau der Zahlungsreihe: übernehmen oder verwerfen.");
     rechts_->setCurrentIndex(1);
     findChild<QPushButton*>("Command3")->setFocus();
@@ -252,11 +286,18 @@ void RegisterZahlungen::Sortieren() {
     });
 }
 
+Zahlungseingabe RegisterZahlungen::Grundeingabe() const {
+    Zahlungseingabe eingabe = art_.serieBleibt ? felder_.Lesen() : Zahlungseingabe{};
+    for (std::string* feld : {&eingabe.Begdatum, &eingabe.Betrag, &eingabe.Beschreibung})
+        feld->clear();
+    return eingabe;
+}
+
 void RegisterZahlungen::AenderungBeginnen() {
     if (!liste_.AenderungBeginnen()) return;
     const std::size_t zeile = *liste_.Geaendert();
     const Staffelsatz& satz = liste_.Saetze()[zeile];
-    Zahlungseingabe eingabe;
+    Zahlungseingabe eingabe = Grundeingabe();
     eingabe.Begdatum = NachUtf8(satz.Satzdatum.Getrimmt());
     eingabe.Betrag = Zahltext(satz.Zahlbetrag);
     eingabe.Beschreibung = NachUtf8(satz.Zahlungstext.Getrimmt());
@@ -285,7 +326,7 @@ void RegisterZahlungen::AenderungUebernehmen() {
 void RegisterZahlungen::AenderungBeenden() {
     liste_.AenderungBeenden();
     Label10_->clear();
-    Zeigen({});
+    Zeigen(Grundeingabe());
     felder_.Fokussieren("Begdatum");
 }
 

@@ -4,6 +4,7 @@
 
 #include "fenster/rechner/formsatzliste.h"
 #include "fenster/ui/feldtafel.h"
+#include "kern/dates/zahlformat.h"
 #include "kern/staffel/zahlungseingabe.h"
 
 class QLabel;
@@ -11,12 +12,27 @@ class QStackedWidget;
 
 namespace zinfolio {
 
+/// What differs between the calculators that take payments.
+struct Zahlungsregisterart {
+    enum Form : unsigned { konto = 1, reihe = 2 };
+
+    /// Which of the rows of fields it has.
+    Form form = konto;
+    Nullbetrag nullbetrag = Nullbetrag::abgelehnt;
+    /// The header of the running number in the preview of a series, and the pattern of the amounts that do
+    /// not begin a stage.
+    std::string_view nummernkopf = "Nr.";
+    Zahlmuster folgemuster = vorschaumuster;
+    /// A change that ends empties the payment's own fields only, not those of the series.
+    bool serieBleibt = false;
+};
+
 /// The tab "Zahlungen": single payments, series with stages and their preview, and the list of all payments.
 class RegisterZahlungen : public QWidget {
     Q_OBJECT
 
   public:
-    RegisterZahlungen(const Satzdatei<Staffelsatz>& datei, QWidget* eltern);
+    RegisterZahlungen(const Zahlungsregisterart& art, const Satzdatei<Staffelsatz>& datei, QWidget* eltern);
 
     /// `NeuSchreiben`: shows what the file holds and sets the series fields to their start values.
     void NeuSchreiben();
@@ -46,6 +62,8 @@ class RegisterZahlungen : public QWidget {
     void VorschauVerwerfen();
     void Schreiben(const Zahlungseingabe& eingabe);
     void Sortieren();
+    /// What the fields show when a change begins or ends: no payment.
+    [[nodiscard]] Zahlungseingabe Grundeingabe() const;
     void AenderungBeginnen();
     void AenderungUebernehmen();
     void AenderungBeenden();
@@ -53,13 +71,13 @@ class RegisterZahlungen : public QWidget {
     void DatumrechZeigen();
     void MonatsendeAnbieten();
 
+    Zahlungsregisterart art_;
     Feldgruppe<Zahlungseingabe> felder_;
     FormSatzliste liste_;
     QLabel* Label10_ = nullptr;
     QStackedWidget* rechts_ = nullptr;
     Tabelle* Grid2_ = nullptr;
-    /// The series in the preview, and the entry that it comes from.
-    std::vector<Staffelsatz> vorschau_;
+    /// The entry of the series in the preview.
     Zahlungseingabe vorgesehen_;
 };
 

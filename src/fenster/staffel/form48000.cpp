@@ -18,10 +18,10 @@ namespace zinfolio {
 Form48000::Form48000(const std::filesystem::path& arbeitsordner)
     : Rechner({.name = "Form48000", .titel = "Zinsstaffelrechner"}, arbeitsordner),
       dateien_(arbeitsordner),
-      zahlungen_(new RegisterZahlungen(dateien_.Zahlungen(), this)),
+      zahlungen_(new RegisterZahlungen({}, dateien_.Zahlungen(), this)),
       zinssaetze_(new RegisterZinssaetze(dateien_.Konditionen(), this)),
       zinsverrechnung_(new RegisterZinsverrechnung(this)),
-      berechnung_(new RegisterBerechnung(this)),
+      berechnung_(new RegisterBerechnung({}, this)),
       notizen_(new RegisterNotizen("RTZinsstaffel", this)),
       effektivzins_(new RegisterEffektivzins(this)) {
     effektivzins_->hide();

@@ -59,7 +59,7 @@ QLabel* NeueKennzahl(const char* name, QWidget* eltern) {
     return wert;
 }
 
-QHBoxLayout* Tastenzeile(std::initializer_list<QPushButton*> tasten) {
+QHBoxLayout* Tastenzeile(const std::vector<QPushButton*>& tasten) {
     auto* zeile = new QHBoxLayout;
     for (QPushButton* taste : tasten)
         zeile->addWidget(taste);
@@ -67,7 +67,7 @@ QHBoxLayout* Tastenzeile(std::initializer_list<QPushButton*> tasten) {
     return zeile;
 }
 
-QWidget* Seite(QWidget* element, std::initializer_list<QPushButton*> tasten) {
+QWidget* Seite(QWidget* element, const std::vector<QPushButton*>& tasten) {
     auto* seite = new QWidget;
     auto* anordnung = new QVBoxLayout(seite);
     anordnung->setContentsMargins(0, 0, 0, 0);

@@ -5,6 +5,7 @@
 #include <initializer_list>
 #include <span>
 #include <string_view>
+#include <vector>
 
 class QComboBox;
 class QHBoxLayout;
@@ -27,10 +28,10 @@ namespace zinfolio {
 [[nodiscard]] QLabel* NeueKennzahl(const char* name, QWidget* eltern);
 
 /// Buttons side by side, at their natural width.
-[[nodiscard]] QHBoxLayout* Tastenzeile(std::initializer_list<QPushButton*> tasten);
+[[nodiscard]] QHBoxLayout* Tastenzeile(const std::vector<QPushButton*>& tasten);
 
 /// A page of one large element with a row of buttons below it.
-[[nodiscard]] QWidget* Seite(QWidget* element, std::initializer_list<QPushButton*> tasten);
+[[nodiscard]] QWidget* Seite(QWidget* element, const std::vector<QPushButton*>& tasten);
 
 /// A page that scrolls where the window is too small for it.
 [[nodiscard]] QWidget* Rollbar(QWidget* seite);

@@ -96,7 +96,7 @@ bool IstOhneDatum(const std::string& text) {
 
 }  // namespace
 
-std::optional<Ablehnung> ZahlungseingabePruefen(Zahlungseingabe& eingabe) {
+std::optional<Ablehnung> ZahlungseingabePruefen(Zahlungseingabe& eingabe, Nullbetrag nullbetrag) {
     FuelleLeer(eingabe.Begdatum, "0");
     FuelleLeer(eingabe.Betrag, "0");
     eingabe.Betrag = Zahltext(Zahl(eingabe.Betrag));
@@ -105,7 +105,8 @@ std::optional<Ablehnung> ZahlungseingabePruefen(Zahlungseingabe& eingabe) {
     if (eingabe.Check1 && eingabe.Stufen.empty()) {
         return Ablehnung{std::string(meldung::stufenFehlen), "Stufen", ""};
     }
-    if (Zahl(eingabe.Betrag) == 0 || IstOhneDatum(eingabe.Begdatum)) {
+    const bool ohneBetrag = nullbetrag == Nullbetrag::abgelehnt && Zahl(eingabe.Betrag) == 0;
+    if (ohneBetrag || IstOhneDatum(eingabe.Begdatum)) {
         return Ablehnung{std::string(meldung::unvollstaendig), "Begdatum", ""};
     }
     return std::nullopt;

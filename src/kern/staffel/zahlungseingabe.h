@@ -41,9 +41,13 @@ struct Zahlungseingabe {
     friend bool operator==(const Zahlungseingabe&, const Zahlungseingabe&) = default;
 };
 
+/// Whether a payment may have an amount of 0.
+enum class Nullbetrag { abgelehnt, erlaubt };
+
 /// Fills the empty fields with their defaults and checks: stages without their number, no date, no amount. A
 /// `Betrag` that is no number is a `Zahlfehler`.
-[[nodiscard]] std::optional<Ablehnung> ZahlungseingabePruefen(Zahlungseingabe& eingabe);
+[[nodiscard]] std::optional<Ablehnung> ZahlungseingabePruefen(Zahlungseingabe& eingabe,
+                                                              Nullbetrag nullbetrag = Nullbetrag::abgelehnt);
 
 /// True where the entry makes a series, which is shown before it is taken over.
 [[nodiscard]] bool IstZahlungsreihe(const Zahlungseingabe& eingabe);

@@ -133,5 +133,17 @@ TEST(MonatsendeAngeboten, NurAmLetztenEinesMonatsDerKeinen31Hat) {
         EXPECT_FALSE(MonatsendeAngeboten(unsinn)) << unsinn;
 }
 
+TEST(ZahlungseingabePruefen, NullbetragNurWoErErlaubtIst) {
+    const auto pruefen = [](std::string datum, std::string betrag, Nullbetrag nullbetrag) {
+        Zahlungseingabe eingabe{.Begdatum = std::move(datum), .Betrag = std::move(betrag)};
+        return ZahlungseingabePruefen(eingabe, nullbetrag).has_value();
+    };
+    EXPECT_TRUE(pruefen("01.02.2007", "0", Nullbetrag::abgelehnt));
+    EXPECT_FALSE(pruefen("01.02.2007", "0", Nullbetrag::erlaubt));
+    EXPECT_FALSE(pruefen("01.02.2007", "", Nullbetrag::erlaubt));
+    EXPECT_TRUE(pruefen("", "5", Nullbetrag::erlaubt));
+    EXPECT_TRUE(pruefen("0", "5", Nullbetrag::erlaubt));
+}
+
 }  // namespace
 }  // namespace zinfolio
