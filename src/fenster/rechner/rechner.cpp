@@ -7,9 +7,11 @@
 #include <QTabWidget>
 
 #include "fenster/rechner/ablage.h"
+#include "fenster/rechner/registernotizen.h"
 #include "fenster/ui/bausteine.h"
 #include "fenster/ui/datumsfeld.h"
 #include "fenster/ui/eingabefeld.h"
+#include "fenster/ui/feldtafel.h"
 #include "fenster/ui/fenstergroesse.h"
 #include "fenster/ui/geschuetzt.h"
 #include "fenster/ui/meldungsfenster.h"
@@ -66,9 +68,11 @@ void Rechner::Einrichten(Rechnerinhalt inhalt) {
 }
 
 void Rechner::RegisterAnlegen() {
-    for (const Registerzeile& zeile : inhalt_.register_)
+    for (const Registerzeile& zeile : inhalt_.register_) {
+        Beobachten(zeile);
         TabStrip1_->addTab(zeile.rollbar ? Rollbar(zeile.seite) : zeile.seite,
                            QString::fromUtf8(zeile.titel));
+    }
     connect(TabStrip1_, &QTabWidget::currentChanged, this, &Rechner::Betreten);
     connect(TabStrip1_, &QTabWidget::tabBarClicked, this, [this](int stelle) {
         // A click on another tab changes to it, which is told by its own signal.
@@ -77,6 +81,15 @@ void Rechner::RegisterAnlegen() {
             inhalt_.register_[static_cast<std::size_t>(stelle)].erneut)
             Betreten(stelle);
     });
+}
+
+void Rechner::Beobachten(const Registerzeile& zeile) {
+    const auto geaendert = [this] { Geaendert(); };
+    if (auto* notizen = qobject_cast<RegisterNotizen*>(zeile.seite))
+        connect(notizen, &RegisterNotizen::inhaltGeaendert, this, geaendert);
+    if (!zeile.eingabe) return;
+    for (const auto* felder : zeile.seite->findChildren<Feldtafel*>())
+        connect(felder, &Feldtafel::bearbeitet, this, geaendert);
 }
 
 void Rechner::RegistertastenAnlegen() {

@@ -45,6 +45,8 @@ struct Registerzeile {
     bool rollbar = false;
     /// selecting the tab that is selected already does the same again
     bool erneut = false;
+    /// what the user changes in the fields of the page is unsaved; a notes tab is watched without it
+    bool eingabe = false;
 };
 
 /// What a calculator is made of.
@@ -123,6 +125,7 @@ class Rechner : public QMainWindow {
   private:
     void AusgabenAnlegen(const Rechnerart& art, const std::filesystem::path& arbeitsordner);
     void RegisterAnlegen();
+    void Beobachten(const Registerzeile& zeile);
     void LeisteAnlegen();
     void FesteBefehleAnlegen(QMenu& datei, QToolBar& leiste);
     void RegistertastenAnlegen();

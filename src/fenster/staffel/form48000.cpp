@@ -87,7 +87,6 @@ void Form48000::Verdrahten() {
     connect(zahlungen_, &RegisterZahlungen::geaendert, this, geaendert);
     connect(zinssaetze_, &RegisterZinssaetze::geaendert, this, geaendert);
     connect(zinsverrechnung_, &RegisterZinsverrechnung::geaendert, this, geaendert);
-    connect(notizen_, &RegisterNotizen::inhaltGeaendert, this, geaendert);
     connect(berechnung_, &RegisterBerechnung::effektivzinsVerlangt, this, &Form48000::EffektivzinsRechnen);
     connect(berechnung_, &RegisterBerechnung::grafikVerlangt, this, &Form48000::GrafikZeigen);
     connect(berechnung_, &RegisterBerechnung::druckenVerlangt, this,
