@@ -75,7 +75,10 @@ void Planablage::Waehlen(int plan) {
 
 void Planablage::Umbenennen(const QString& name) {
     verzeichnis_.namen[static_cast<std::size_t>(verzeichnis_.aktuell)] = name.toStdString();
+    // The list puts the new text into its field, which moves the cursor to the end.
+    const int stelle = Combo3_->lineEdit()->cursorPosition();
     Combo3_->setItemText(verzeichnis_.aktuell, name);
+    Combo3_->lineEdit()->setCursorPosition(stelle);
     emit benannt();
     (void)Schreiben(art_.nichtGespeichert, [this] { art_.namenSchreiben(verzeichnis_); });
 }
