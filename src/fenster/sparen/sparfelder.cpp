@@ -13,6 +13,7 @@
 #include "fenster/ui/bausteine.h"
 #include "fenster/ui/datumsfeld.h"
 #include "fenster/ui/feldraster.h"
+#include "fenster/ui/kalendertaste.h"
 #include "fenster/ui/meldungsfenster.h"
 #include "kern/dates/datumtippen.h"
 #include "kern/staffel/zahlungseingabe.h"
@@ -44,8 +45,7 @@ QString Beschriftung(const Formzeile& zeile) {
 
 Tastenfilter Filter(Sparfeldart art) {
     if (art == Sparfeldart::prozent) return Tastenfilter::prozent;
-    if (art == Sparfeldart::ganzzahl) return Tastenfilter::ganzzahl;
-    return art == Sparfeldart::datum ? Tastenfilter::datum : Tastenfilter::betrag;
+    return art == Sparfeldart::ganzzahl ? Tastenfilter::ganzzahl : Tastenfilter::betrag;
 }
 
 /// The calendar button of a date.
@@ -163,36 +163,30 @@ void Sparfelder::FelderAnlegen(Feldraster& raster, Sparabschnitt abschnitt) {
 }
 
 void Sparfelder::TextfeldAnlegen(const Formzeile& zeile, Feldraster& raster) {
-    const std::string name(zeile.feld->name);
-    Eingabefeld* feld = NeuesFeld(name.c_str(), Filter(zeile.feld->art), this);
+    Eingabefeld* feld = NeuesTextfeld(zeile);
     bindungen_.push_back(
         {[feld, glied = zeile.feld->text](Sparplan& plan) { plan.*glied = feld->Wert(); },
          [feld, glied = zeile.feld->text](const Sparplan& plan) { feld->Setze(plan.*glied); }});
     connect(feld, &QLineEdit::textEdited, this, &Sparfelder::geaendert);
-    if (auto* datumsfeld = qobject_cast<Datumsfeld*>(feld)) {
-        raster.Zeile(Beschriftung(zeile), feld, Kalender(zeile, *datumsfeld));
-        return;
-    }
+    raster.Zeile(Beschriftung(zeile), feld);
+    if (auto* datumsfeld = qobject_cast<Datumsfeld*>(feld))
+        raster.Dahinter(raster.LetzteZeile(), Kalender(zeile, *datumsfeld));
+    else
+        raster.Dahinter(raster.LetzteZeile(), new QLabel(Anzeigetext(zeile.einheit), this));
+}
+
+Eingabefeld* Sparfelder::NeuesTextfeld(const Formzeile& zeile) {
+    const QString name = Anzeigetext(zeile.feld->name);
+    if (zeile.feld->art == Sparfeldart::datum) return new Datumsfeld(name, this);
+    auto* feld = new Eingabefeld(name, Filter(zeile.feld->art), this);
     feld->setAlignment(Qt::AlignRight);
-    raster.Zeile(Beschriftung(zeile), feld, Anzeigetext(zeile.einheit));
+    return feld;
 }
 
 QWidget* Sparfelder::Kalender(const Formzeile& zeile, Datumsfeld& feld) {
     feld.setPlaceholderText("tt.mm.jjjj");
-    const char* name = Kalendername(zeile.feld);
-    auto* taste = NeueTaste(name, "", this, [this, &feld, name] { DatumWaehlen(feld, name); });
-    Kalendertaste(*taste);
-    feld.OhnePruefung(taste);
     if (form_.ziel == Sparziel::anspardauer) BeimTippenHelfen(feld);
-    return taste;
-}
-
-void Sparfelder::DatumWaehlen(Datumsfeld& feld, const char* taste) {
-    if (const auto datum = KalenderFragen(*findChild<QPushButton*>(taste), feld.Wert())) {
-        feld.Setze(datum->Text());
-        emit geaendert();
-    }
-    feld.setFocus();
+    return new Kalendertaste(Kalendername(zeile.feld), feld, this);
 }
 
 /// The points come by themselves. A text that has become shorter was shortened by Backspace.

@@ -13,6 +13,7 @@ class QPushButton;
 namespace zinfolio {
 
 class Datumsfeld;
+class Eingabefeld;
 class Feldraster;
 
 /// The tab "Daten" of a savings calculator: the fields that its form has, in sections. They hold the plan as
@@ -59,8 +60,8 @@ class Sparfelder : public QWidget {
     void ListeAnlegen(const Formzeile& zeile, Feldraster& raster);
     [[nodiscard]] QCheckBox* NeuerHaken(const Formzeile& zeile);
     void EinheitAnlegen(const Formzeile& zeile, Feldraster& raster);
+    [[nodiscard]] Eingabefeld* NeuesTextfeld(const Formzeile& zeile);
     [[nodiscard]] QWidget* Kalender(const Formzeile& zeile, Datumsfeld& feld);
-    void DatumWaehlen(Datumsfeld& feld, const char* taste);
     void EinheitUmschalten();
     void BeimTippenHelfen(Datumsfeld& feld);
     void Verdrahten();
