@@ -22,18 +22,18 @@ namespace zinfolio {
 namespace {
 
 /// How the field of a figure is entered, and the letter of its caption that brings the focus to it.
-struct Feldart {
+struct Eingabeart {
     Tastenfilter filter;
     char taste;
 };
 
 /// By `Kurzgroesse`.
-constexpr std::array<Feldart, kurzgroessen> feldarten{{{Tastenfilter::betrag, 'H'},
-                                                       {Tastenfilter::ganzzahl, 'J'},
-                                                       {Tastenfilter::ganzzahl, 'T'},
-                                                       {Tastenfilter::prozent, 'V'},
-                                                       {Tastenfilter::betrag, 'A'},
-                                                       {Tastenfilter::betrag, 'e'}}};
+constexpr std::array<Eingabeart, kurzgroessen> feldarten{{{Tastenfilter::betrag, 'H'},
+                                                          {Tastenfilter::ganzzahl, 'J'},
+                                                          {Tastenfilter::ganzzahl, 'T'},
+                                                          {Tastenfilter::prozent, 'V'},
+                                                          {Tastenfilter::betrag, 'A'},
+                                                          {Tastenfilter::betrag, 'e'}}};
 
 std::size_t Stelle(Kurzgroesse groesse) {
     return static_cast<std::size_t>(groesse);
@@ -100,9 +100,7 @@ Kurzfenster::Kurzfenster(const Kurzrechner& rechner, std::filesystem::path arbei
 void Kurzfenster::FelderAnlegen(Feldraster& raster) {
     for (const Kurzfeld& feld : rechner_.felder) {
         if (feld.ergebnis) continue;
-        const std::string name(feld.name);
-        Eingabefeld* eingabe = NeuesFeld(name.c_str(), feldarten[Stelle(feld.groesse)].filter, this);
-        eingabe->setAlignment(Qt::AlignRight);
+        auto* eingabe = new Eingabefeld(Anzeigetext(feld.name), feldarten[Stelle(feld.groesse)].filter, this);
         connect(eingabe, &QLineEdit::textEdited, this, &Kurzfenster::ErgebnisLeeren);
         raster.Zeile(BeschriftungMitTaste(feld.groesse), eingabe);
         felder_[Stelle(feld.groesse)] = eingabe;

@@ -6,17 +6,19 @@
 #include <QVBoxLayout>
 
 #include "fenster/ui/bausteine.h"
+#include "fenster/ui/feldraster.h"
 
 namespace zinfolio {
 namespace {
 
+using Eingabe = Einzelfaktoreingabe;
+
 constexpr std::array eingabefelder{
-    Felddeskriptor<Einzelfaktoreingabe>{"Zins2", "&Zinssatz", Tastenfilter::prozent, "%",
-                                        &Einzelfaktoreingabe::Zins2},
-    Felddeskriptor<Einzelfaktoreingabe>{"Jahre2", "&Jahre", Tastenfilter::ganzzahl, "",
-                                        &Einzelfaktoreingabe::Jahre2},
-    Felddeskriptor<Einzelfaktoreingabe>{"Betrag2", "B&etrag", Tastenfilter::betrag, "€",
-                                        &Einzelfaktoreingabe::Betrag2},
+    Feld<&Eingabe::Zins2>(
+        {.name = "Zins2", .titel = "&Zinssatz", .filter = Tastenfilter::prozent, .einheit = "%"}),
+    Feld<&Eingabe::Jahre2>({.name = "Jahre2", .titel = "&Jahre", .filter = Tastenfilter::ganzzahl}),
+    Feld<&Eingabe::Betrag2>(
+        {.name = "Betrag2", .titel = "B&etrag", .filter = Tastenfilter::betrag, .einheit = "€"}),
 };
 
 }  // namespace
@@ -24,6 +26,7 @@ constexpr std::array eingabefelder{
 RegisterEinzelfaktor::RegisterEinzelfaktor(QWidget* eltern)
     : QWidget(eltern),
       wahl_({"Combo7", "Erklärung4", "Combo5", "Combo6"}, this, [this] { emit geaendert(); }),
+      felder_(this),
       Berechnen2_(NeueTaste("Berechnen2", "&Berechnen", this, [this] { emit berechnenVerlangt(); })),
       Command4_(NeueTaste("Command4", "Dru&cken", this, [this] { emit druckenVerlangt(); })),
       Ergebnis_(NeueKennzahl("Ergebnis", this)),
@@ -31,11 +34,7 @@ RegisterEinzelfaktor::RegisterEinzelfaktor(QWidget* eltern)
     setObjectName("Frame_Einzelfaktor");
     auto* raster = new Feldraster;
     wahl_.FaktorInRaster(*raster);
-    for (const auto& feld : eingabefelder) {
-        Eingabefeld* eingabe = FeldAnlegen(feld, this, *raster, felder_);
-        eingabe->setAlignment(Qt::AlignRight);
-        connect(eingabe, &QLineEdit::textEdited, this, &RegisterEinzelfaktor::geaendert);
-    }
+    felder_.Anlegen(eingabefelder, *raster);
     wahl_.RhythmusInRaster(*raster);
     auto* eingaben = new QWidget;
     auto* links = new QVBoxLayout(eingaben);
@@ -52,15 +51,15 @@ RegisterEinzelfaktor::RegisterEinzelfaktor(QWidget* eltern)
     auto* anordnung = new QHBoxLayout(this);
     anordnung->addWidget(Rollspalte(eingaben));
     anordnung->addLayout(rechts, 1);
+    connect(&felder_.Tafel(), &Feldtafel::bearbeitet, this, &RegisterEinzelfaktor::geaendert);
     connect(this, &RegisterEinzelfaktor::geaendert, this, [this] { ErgebnisZeigen({}); });
     ErgebnisZeigen({});
 }
 
 Einzelfaktoreingabe RegisterEinzelfaktor::Lesen() const {
-    Einzelfaktoreingabe eingabe;
+    Eingabe eingabe;
     eingabe.wahl = wahl_.Lesen();
-    felder_.Lesen(eingabe);
-    return eingabe;
+    return felder_.Lesen(eingabe);
 }
 
 void RegisterEinzelfaktor::Zeigen(const Einzelfaktoreingabe& eingabe) {

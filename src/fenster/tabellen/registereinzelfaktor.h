@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "fenster/tabellen/faktorauswahl.h"
-#include "fenster/ui/feldraster.h"
+#include "fenster/ui/feldtafel.h"
 #include "kern/tabellen/einzelfaktor.h"
 
 class QLabel;

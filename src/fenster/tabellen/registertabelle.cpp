@@ -1,26 +1,31 @@
 #include "fenster/tabellen/registertabelle.h"
 
-#include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 #include "fenster/ui/bausteine.h"
+#include "fenster/ui/feldraster.h"
 #include "fenster/ui/meldungsfenster.h"
 #include "fenster/ui/tabelle.h"
 
 namespace zinfolio {
 namespace {
 
+using Eingabe = Faktortabelleneingabe;
+
 constexpr std::array eingabefelder{
-    Felddeskriptor<Faktortabelleneingabe>{"Pro1", "&Zinssatz von", Tastenfilter::prozent, "%",
-                                          &Faktortabelleneingabe::Pro1},
-    Felddeskriptor<Faktortabelleneingabe>{"Pro2", "Zinssatz b&is", Tastenfilter::prozent, "%",
-                                          &Faktortabelleneingabe::Pro2},
-    Felddeskriptor<Faktortabelleneingabe>{"J1", "&Jahr von", Tastenfilter::ganzzahl, "",
-                                          &Faktortabelleneingabe::J1},
-    Felddeskriptor<Faktortabelleneingabe>{"J2", "Jah&r bis", Tastenfilter::ganzzahl, "",
-                                          &Faktortabelleneingabe::J2},
+    Feld<&Eingabe::Pro1>(
+        {.name = "Pro1", .titel = "&Zinssatz von", .filter = Tastenfilter::prozent, .einheit = "%"}),
+    Feld<&Eingabe::Pro2>(
+        {.name = "Pro2", .titel = "Zinssatz b&is", .filter = Tastenfilter::prozent, .einheit = "%"}),
+    Feld<&Eingabe::Schrittweite>({.name = "Combo2",
+                                  .titel = "&Schrittweite",
+                                  .art = Feldart::liste,
+                                  .texte = schrittweiten,
+                                  .einheit = "%"}),
+    Feld<&Eingabe::J1>({.name = "J1", .titel = "&Jahr von", .filter = Tastenfilter::ganzzahl}),
+    Feld<&Eingabe::J2>({.name = "J2", .titel = "Jah&r bis", .filter = Tastenfilter::ganzzahl}),
 };
 
 /// What the table shows, so that a picture of it explains itself.
@@ -36,7 +41,7 @@ QString Tabellentitel(const Faktorwahl& wahl) {
 RegisterTabelle::RegisterTabelle(QWidget* eltern)
     : QWidget(eltern),
       wahl_({"Combo1", "Erklärung", "Combo3", "Combo4"}, this, [this] { emit geaendert(); }),
-      Combo2_(NeueAuswahl("Combo2", schrittweiten, this)),
+      felder_(this),
       Command1_(NeueTaste("Command1", "&Berechnen", this, [this] { emit berechnenVerlangt(); })),
       Command8_(NeueTaste("Command8", "Dru&cken", this, [this] { emit druckenVerlangt(); })),
       titel_(new QLabel(this)),
@@ -51,7 +56,7 @@ RegisterTabelle::RegisterTabelle(QWidget* eltern)
     anordnung->setContentsMargins(0, 0, 0, 0);
     anordnung->addWidget(Eingabetafel());
     anordnung->addLayout(rechts, 1);
-    connect(Combo2_, &QComboBox::activated, this, &RegisterTabelle::geaendert);
+    connect(&felder_.Tafel(), &Feldtafel::bearbeitet, this, &RegisterTabelle::geaendert);
     connect(this, &RegisterTabelle::geaendert, this, &RegisterTabelle::Leeren);
     Leeren();
 }
@@ -59,12 +64,7 @@ RegisterTabelle::RegisterTabelle(QWidget* eltern)
 QWidget* RegisterTabelle::Eingabetafel() {
     auto* raster = new Feldraster;
     wahl_.FaktorInRaster(*raster);
-    for (const auto& feld : eingabefelder) {
-        Eingabefeld* eingabe = FeldAnlegen(feld, this, *raster, felder_);
-        eingabe->setAlignment(Qt::AlignRight);
-        connect(eingabe, &QLineEdit::textEdited, this, &RegisterTabelle::geaendert);
-        if (feld.wert == &Faktortabelleneingabe::Pro2) raster->Zeile("&Schrittweite", Combo2_, QString("%"));
-    }
+    felder_.Anlegen(eingabefelder, *raster);
     wahl_.RhythmusInRaster(*raster);
     auto* inhalt = new QWidget;
     auto* spalte = new QVBoxLayout(inhalt);
@@ -75,16 +75,13 @@ QWidget* RegisterTabelle::Eingabetafel() {
 }
 
 Faktortabelleneingabe RegisterTabelle::Lesen() const {
-    Faktortabelleneingabe eingabe;
+    Eingabe eingabe;
     eingabe.wahl = wahl_.Lesen();
-    eingabe.Schrittweite = static_cast<Schrittweite>(Combo2_->currentIndex());
-    felder_.Lesen(eingabe);
-    return eingabe;
+    return felder_.Lesen(eingabe);
 }
 
 void RegisterTabelle::Zeigen(const Faktortabelleneingabe& eingabe) {
     wahl_.Zeigen(eingabe.wahl);
-    Combo2_->setCurrentIndex(static_cast<int>(eingabe.Schrittweite));
     felder_.Zeigen(eingabe);
     Leeren();
 }

@@ -5,10 +5,9 @@
 #include <optional>
 
 #include "fenster/tabellen/faktorauswahl.h"
-#include "fenster/ui/feldraster.h"
+#include "fenster/ui/feldtafel.h"
 #include "kern/tabellen/faktortabelle.h"
 
-class QComboBox;
 class QLabel;
 class QPushButton;
 
@@ -44,7 +43,6 @@ class RegisterTabelle : public QWidget {
     void Leeren();
 
     Faktorauswahl wahl_;
-    QComboBox* Combo2_;
     Feldgruppe<Faktortabelleneingabe> felder_;
     QPushButton* Command1_;
     QPushButton* Command8_;
