@@ -28,8 +28,8 @@ class Form34Test : public QObject {
         std::ofstream(ordner_->Pfad() / "RTF2.RTF", std::ios::binary) << bytes;
     }
 
-    void Oeffne(std::optional<Textverarbeitung> textverarbeitung = std::nullopt) {
-        form_ = std::make_unique<Form34>(ordner_->Pfad(), nullptr, std::move(textverarbeitung));
+    void Oeffne(const QString& textverarbeitung = {}) {
+        form_ = std::make_unique<Form34>(ordner_->Pfad(), nullptr, textverarbeitung);
         Zeige(*form_);
     }
 
@@ -60,11 +60,12 @@ class Form34Test : public QObject {
     }
 
     /// A program that copies what it is started with to `ziel`, whole or not at all.
-    Textverarbeitung Kopierer(const QString& ziel) {
+    QString Kopierer(const QString& ziel) {
         const auto datei = ordner_->Pfad() / "kopierer.sh";
-        std::ofstream(datei) << "#!/bin/sh\ncp \"$2\" \"$1.neu\" && mv \"$1.neu\" \"$1\" && rm \"$2\"\n";
+        std::ofstream(datei) << "#!/bin/sh\nziel='" + ziel.toStdString() +
+                                    "'\ncp \"$1\" \"$ziel.neu\" && mv \"$ziel.neu\" \"$ziel\" && rm \"$1\"\n";
         std::filesystem::permissions(datei, std::filesystem::perms::owner_all);
-        return {datei, {ziel.toStdString(), "%f"}};
+        return QString::fromStdString(datei.string());
     }
 
   private slots:
@@ -82,7 +83,7 @@ class Form34Test : public QObject {
     }
 
     void beschriftungenStehenWieVereinbart() {
-        Oeffne(Textverarbeitung{"/bin/true", {}});
+        Oeffne("/bin/true");
         const std::initializer_list<std::pair<const char*, const char*>> tasten{
             {"Command1", "Ende"},
             {"Command2", "Schriften"},
@@ -236,7 +237,7 @@ class Form34Test : public QObject {
     void textverarbeitungDieNichtStartetWirdGemeldet() {
         const Zeuge zeuge;
         Lege("Text\n");
-        Oeffne(Textverarbeitung{ordner_->Pfad() / "gibtesnicht", {"%f"}});
+        Oeffne(Datei("gibtesnicht"));
         Klicke("Wordaufruf");
         QCOMPARE(zeuge.texte, QStringList{"Die Textverarbeitung kann nicht gestartet werden."});
     }

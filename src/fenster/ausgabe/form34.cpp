@@ -58,8 +58,7 @@ QString UebergabeSchreiben(const std::string& rtf) {
 
 }  // namespace
 
-Form34::Form34(std::filesystem::path arbeitsordner, QWidget* eltern,
-               std::optional<Textverarbeitung> textverarbeitung)
+Form34::Form34(std::filesystem::path arbeitsordner, QWidget* eltern, QString textverarbeitung)
     : QDialog(eltern),
       arbeitsordner_(std::move(arbeitsordner)),
       textverarbeitung_(std::move(textverarbeitung)),
@@ -78,7 +77,7 @@ Form34::Form34(std::filesystem::path arbeitsordner, QWidget* eltern,
         NeueTaste("Drucken", "&Drucken", this, [this] { Ausdrucken(); }),
         NeueTaste("Zwischenablage", "&Zwischenablage", this, [this] { InZwischenablage(); }),
     });
-    if (textverarbeitung_)
+    if (!textverarbeitung_.isEmpty())
         zeile->insertWidget(2, NeueTaste("Wordaufruf", "&Word ", this, [this] { AnTextverarbeitung(); }));
     zeile->addWidget(NeueTaste("Command1", "&Ende", this, [this] { Ende(); }));
     auto* anordnung = new QVBoxLayout(this);
@@ -150,7 +149,7 @@ void Form34::Ausdrucken() {
 
 void Form34::AnTextverarbeitung() {
     const QString datei = UebergabeSchreiben(RtfBericht(AlsBericht(R_->toPlainText())));
-    if (datei.isEmpty() || !TextverarbeitungStarten(*textverarbeitung_, datei.toStdString())) {
+    if (datei.isEmpty() || !TextverarbeitungStarten(textverarbeitung_, datei)) {
         if (!datei.isEmpty()) QFile::remove(datei);
         MeldungZeigen(this, {.text = "Die Textverarbeitung kann nicht gestartet werden."});
     }

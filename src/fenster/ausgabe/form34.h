@@ -2,7 +2,6 @@
 
 #include <QDialog>
 #include <filesystem>
-#include <optional>
 
 #include "fenster/ausgabe/schreibtisch.h"
 
@@ -17,9 +16,9 @@ class Form34 : public QDialog {
     Q_OBJECT
 
   public:
-    explicit Form34(
-        std::filesystem::path arbeitsordner, QWidget* eltern = nullptr,
-        std::optional<Textverarbeitung> textverarbeitung = TextverarbeitungFinden(Schreibtisch()));
+    /// `textverarbeitung` is a program that takes the text's file; empty: there is none.
+    explicit Form34(std::filesystem::path arbeitsordner, QWidget* eltern = nullptr,
+                    QString textverarbeitung = Textverarbeitung());
 
   protected:
     void showEvent(QShowEvent* ereignis) override;
@@ -37,7 +36,7 @@ class Form34 : public QDialog {
     void InZwischenablage();
 
     std::filesystem::path arbeitsordner_;
-    std::optional<Textverarbeitung> textverarbeitung_;
+    QString textverarbeitung_;
     QPlainTextEdit* R_;
 };
 
