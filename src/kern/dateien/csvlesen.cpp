@@ -14,7 +14,8 @@ constexpr std::size_t hoechsteFelderzahl = 1000;
 
 class Csvleser {
   public:
-    explicit Csvleser(std::string_view text) : rest_(text) {}
+    Csvleser(std::string_view text, char trenner)
+        : rest_(text), trenner_(trenner), feldende_({trenner, '\n'}) {}
 
     /// The next row that is not empty; false at the end.
     bool Naechste(Csvzeile& zeile) {
@@ -27,7 +28,7 @@ class Csvleser {
                 throw Csvfehler(nummer_,
                                 "Die Zeile hat mehr als " + std::to_string(hoechsteFelderzahl) + " Felder.");
             zeile.felder.push_back(rest_.starts_with('"') ? Angefuehrtes() : Schlichtes());
-        } while (Nimm(";"));
+        } while (Nimm({&trenner_, 1}));
         if (!rest_.empty() && !NimmZeilenende())
             throw Csvfehler(nummer_, "Hinter dem schließenden Anführungszeichen steht noch etwas.");
         return true;
@@ -47,7 +48,7 @@ class Csvleser {
     }
 
     std::string Schlichtes() {
-        const std::size_t ende = std::min(rest_.find_first_of(";\n"), rest_.size());
+        const std::size_t ende = std::min(rest_.find_first_of(feldende_), rest_.size());
         const bool vorZeilenende = ende > 0 && ende < rest_.size() && rest_[ende] == '\n';
         const std::size_t laenge = vorZeilenende && rest_[ende - 1] == '\r' ? ende - 1 : ende;
         std::string feld(rest_.substr(0, laenge));
@@ -74,16 +75,18 @@ class Csvleser {
     }
 
     std::string_view rest_;
+    char trenner_;
+    std::string feldende_;
     std::size_t nummer_ = 1;
 };
 
 }  // namespace
 
-std::vector<Csvzeile> CsvLesen(std::string_view text) {
+std::vector<Csvzeile> CsvLesen(std::string_view text, char trenner) {
     constexpr std::string_view marke = "\xEF\xBB\xBF";
     if (text.starts_with(marke)) text.remove_prefix(marke.size());
     const std::string umgesetzt = IstUtf8(text) ? std::string() : NachUtf8(text);
-    Csvleser leser(umgesetzt.empty() ? text : umgesetzt);
+    Csvleser leser(umgesetzt.empty() ? text : umgesetzt, trenner);
     std::vector<Csvzeile> zeilen;
     for (Csvzeile zeile; leser.Naechste(zeile);)
         zeilen.push_back(std::move(zeile));

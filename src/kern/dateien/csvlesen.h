@@ -28,10 +28,10 @@ struct Csvzeile {
     std::vector<std::string> felder;
 };
 
-/// The rows of a text with semicolons between the fields. A field may stand in quotation marks, which then
-/// may hold semicolons, line ends and doubled quotation marks. Lines end with LF or CR LF; empty ones are
+/// The rows of a text with `trenner` between the fields. A field may stand in quotation marks, which then
+/// may hold separators, line ends and doubled quotation marks. Lines end with LF or CR LF; empty ones are
 /// passed over, and so is a byte order mark. The fields are UTF-8; a text that is none is taken as
 /// Windows-1252, as spreadsheets save it. Throws `Csvfehler`, also for a line of more than 1000 fields.
-[[nodiscard]] std::vector<Csvzeile> CsvLesen(std::string_view text);
+[[nodiscard]] std::vector<Csvzeile> CsvLesen(std::string_view text, char trenner = ';');
 
 }  // namespace zinfolio

@@ -109,6 +109,11 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(Fehlerfall{"a\n" + std::string(1000, ';'), 2, "Die Zeile hat mehr als 1000 Felder."},
                     Fehlerfall{std::string(1 << 20, ';'), 1, "Die Zeile hat mehr als 1000 Felder."}));
 
+TEST(CsvLesen, AndereTrenner) {
+    EXPECT_EQ(CsvLesen("a;b\t\"c\td\"\n", '\t').at(0).felder, (std::vector<std::string>{"a;b", "c\td"}));
+    EXPECT_EQ(CsvLesen("a,\"1,5\"", ',').at(0).felder, (std::vector<std::string>{"a", "1,5"}));
+}
+
 TEST(CsvLesen, TausendFelderSindNichtZuViele) {
     EXPECT_EQ(CsvLesen(std::string(999, ';')).at(0).felder.size(), 1000U);
 }
