@@ -22,13 +22,13 @@ enum class Deltaeinheit { prozent, betrag };
 
 /// The entry controls as they stand: texts as typed, boxes and lists by their choice.
 struct Zahlungseingabe {
-    std::string Begdatum;
-    std::string Betrag;
-    std::string Beschreibung;
+    std::string Begdatum{};
+    std::string Betrag{};
+    std::string Beschreibung{};
     std::string Ratzahl = "1";
     std::string Abstand = "1";
-    std::string Stufen;
-    std::string Delta;
+    std::string Stufen{};
+    std::string Delta{};
     /// unit of `Abstand`
     Abstandseinheit Combo5 = Abstandseinheit::monate;
     /// stages on
