@@ -260,19 +260,21 @@ class ProjektTest : public QObject {
         QCOMPARE(Dateien(ablage_->Pfad()), "");
     }
 
-    void eineFehlendeNebendateiWirdGemeldetUndDasKontoHatKeinenNamen() {
+    void eineFehlendeNebendateiWirdGemeldetUndDasKontoBleibt() {
         KontoEingeben();
         SpeichernAls("Konto.ZiS");
-        Taste(Qt::Key_N);
+        SpeichernAls("Kopie.ZiS");
         fs::remove(Datei("ZinsstaffelzinsKonto"));
         const Zeuge zeuge;
         Oeffnen("Konto.ZiS");
         QCOMPARE(zeuge.texte.size(), 1);
         QVERIFY(zeuge.texte[0].startsWith("Bitte überprüfen Sie Ihre Angaben."));
         QVERIFY(zeuge.einzelheiten[0].contains("ZinsstaffelzinsKonto"));
-        QCOMPARE(Projekt(), "");
-        // The payments had been copied by then, and stay.
+        QCOMPARE(Projekt(), "Kopie.ZiS");
         QCOMPARE(Zeilen(*form_, "List1"), 2);
+        QCOMPARE(Zeilen(*form_, "List2"), 1);
+        QCOMPARE(Notizen()->toPlainText(), "Konto der Oma");
+        QVERIFY(!form_->isWindowModified());
     }
 
     void einFehlenderOrdnerWirdGemeldetUndDasKontoBleibt() {

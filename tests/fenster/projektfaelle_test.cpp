@@ -116,22 +116,17 @@ class ProjektfaelleTest : public QObject {
         ablage_.reset();
     }
 
-    void nachMisslungenemOeffnenGibtEsNichtsZuDrucken() {
+    void misslungenesOeffnenLaesstDasBerechneteStehen() {
         KontoAnlegen();
         Waehle(*form_, Form48000::berechnung);
-        // 1 000 for 360 days and 500 for 180 days at 10 %: 100 + 25 of interest.
-        QCOMPARE(Text("EV"), "1.625,00");
-        QVERIFY(Frei("Command13") && Frei("Grafik"));
         fs::remove(Datei("ZinsstaffelzinsKonto"));
         const Zeuge zeuge;
         Oeffnen(Datei("Konto.ZiS"));
         QCOMPARE(zeuge.texte.size(), 1);
-        QVERIFY(!Frei("Command13"));
-        QVERIFY(!Frei("Grafik"));
-        for (const char* summe : {"Gesamtzahlungssumme", "Geszins", "EV"})
-            QCOMPARE(Text(summe), "");
-        QCOMPARE(Register(), int(Form48000::zahlungen));
-        QVERIFY(form_->isWindowModified());
+        // 1 000 for 360 days and 500 for 180 days at 10 %: 100 + 25 of interest.
+        QCOMPARE(Text("EV"), "1.625,00");
+        QVERIFY(Frei("Command13") && Frei("Grafik"));
+        QCOMPARE(Register(), int(Form48000::berechnung));
     }
 
     void verlassenMitJaBleibtWennDasSpeichernScheitert() {

@@ -60,18 +60,13 @@ void Projektablage::Oeffnen() {
 }
 
 void Projektablage::Laden(const std::filesystem::path& datei, Leseanlass anlass) {
-    const bool gelungen = GeschuetztMitWartezeiger(Fenster(), [&] {
+    // A project that cannot be read wholly changes nothing.
+    GeschuetztMitWartezeiger(Fenster(), [&] {
         art_.laden(datei, anlass);
         Benennen(datei);
         emit gewechselt();
         Fenster()->setWindowModified(false);
     });
-    if (gelungen) return;
-    // What was copied stays, but must not be saved over the project that it is a part of.
-    Benennen(std::nullopt);
-    if (art_.nachFehlschlag) Geschuetzt(Fenster(), art_.nachFehlschlag);
-    emit gewechselt();
-    Fenster()->setWindowModified(true);
 }
 
 bool Projektablage::Speichern() {

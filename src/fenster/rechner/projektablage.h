@@ -24,7 +24,8 @@ struct Projektart {
 
     /// Begins anew: empties working files and controls.
     std::function<void()> neu;
-    /// Brings a project into working files and controls. A fault comes through.
+    /// Brings a project into working files and controls: reads and checks all of it first, so that a fault,
+    /// which comes through, has changed nothing.
     std::function<void(const std::filesystem::path&, Leseanlass)> laden;
     /// Writes the project. A `Dateifehler` where that is not possible.
     std::function<void(const std::filesystem::path&)> speichern;
@@ -33,8 +34,6 @@ struct Projektart {
     std::function<void()> festhalten = {};
     /// Puts the working files in order before the save of leaving; optional.
     std::function<void()> ordnen = {};
-    /// Shows what the working files hold after a `laden` that failed; optional.
-    std::function<void()> nachFehlschlag = {};
 };
 
 /// A project in files that the user names: new, open, save, save as.

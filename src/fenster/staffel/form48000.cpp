@@ -74,11 +74,6 @@ Projektart Form48000::Kontoprojekt() {
             },
         .festhalten = [this] { KontoeinstellungenSchreiben(dateien_.Ordner(), zinsverrechnung_->Lesen()); },
         .ordnen = [this] { Sortieren(); },
-        .nachFehlschlag =
-            [this] {
-                KontoWechseln();
-                ErgebnisLeeren();
-            },
     };
 }
 
@@ -107,14 +102,15 @@ void Form48000::Neu() {
 }
 
 void Form48000::Laden(const std::filesystem::path& datei, Leseanlass anlass) {
+    auto projekt = KontoprojektLesen(datei);
+    KontoprojektUebernehmen(dateien_.Ordner(), projekt);
     if (anlass == Leseanlass::oeffnen) RegisterEntfernen(effektivzins_);
-    std::string notiz = KontoprojektEinlesen(dateien_.Ordner(), datei);
     KontoWechseln();
     zinsverrechnung_->Zeigen(KontoeinstellungenLesen(dateien_.Ordner()));
     if (anlass == Leseanlass::oeffnen)
-        notizen_->Oeffnen(std::move(notiz));
+        notizen_->Oeffnen(std::move(projekt.notizen));
     else
-        notizen_->Wiederladen(std::move(notiz));
+        notizen_->Wiederladen(std::move(projekt.notizen));
 }
 
 void Form48000::Sortieren() {

@@ -14,9 +14,8 @@ class Deskriptor;
 enum class Sicherung { Fluechtig, Dauerhaft };
 
 /// A new content for a file, complete on the disk beside its target but not yet in its place. Whatever
-/// happens on the way, the target is wholly old or wholly new. Several files are saved together by
-/// constructing all of them first (nothing is lost on a full disk) and completing them afterwards, the one
-/// that refers to the others last.
+/// happens on the way, the target is wholly old or wholly new. Files that belong together are a
+/// `Dateigruppe`.
 ///
 /// The target may be missing. An existing one keeps its permissions (not its owner, ACL or extended
 /// attributes) and must be a regular file that may be written; a new one gets what the umask leaves of 0666.
@@ -34,6 +33,12 @@ class AtomareDatei {
     /// Puts the content in the place of the target. Throws `Dateifehler`; the target is old then, or new when
     /// only the fsync of its folder failed. REQUIRES: not completed and not moved from.
     void Vollenden();
+
+    /// The same without the fsync of the folder, for whoever renames several files.
+    void Einsetzen();
+
+    /// The file that is replaced: absolute, behind all symbolic links.
+    [[nodiscard]] const std::filesystem::path& Ziel() const { return ziel; }
 
   private:
     AtomareDatei(std::filesystem::path zieldatei, Sicherung dauer) noexcept;

@@ -25,7 +25,10 @@ class Deskriptor {
     Deskriptor(const std::filesystem::path& datei, int schalter, mode_t rechte = 0)
         : nummer(OhneUnterbrechung([&] { return ::open(datei.c_str(), schalter | O_CLOEXEC, rechte); })) {}
     Deskriptor(Deskriptor&& anderer) noexcept : nummer(std::exchange(anderer.nummer, -1)) {}
-    Deskriptor& operator=(Deskriptor&&) = delete;
+    Deskriptor& operator=(Deskriptor&& anderer) noexcept {
+        std::swap(nummer, anderer.nummer);
+        return *this;
+    }
     ~Deskriptor() {
         if (Offen()) ::close(nummer);
     }

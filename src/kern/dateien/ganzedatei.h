@@ -7,6 +7,10 @@
 
 namespace zinfolio {
 
+/// What no file that is opened or saved as a whole exceeds: far more than any account or notes, so that no
+/// file can fill the memory.
+inline constexpr std::size_t hoechsteDateilaenge = std::size_t{64} << 20;
+
 /// Appends to `text` all that an open file still holds. False, with `errno` set, where the system refuses;
 /// EFBIG for more than `hoechstens` bytes. What was read by then stays.
 [[nodiscard]] bool RestLesen(int nummer, std::size_t hoechstens, std::string& text);

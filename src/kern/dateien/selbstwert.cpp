@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <optional>
 #include <string_view>
 
 #include "kern/dateien/dateifehler.h"
@@ -100,17 +99,26 @@ Selbstwert SelbstwertLesen(std::span<const std::byte> satz, Selbstform form) {
     return MitKennungLesen(satz);
 }
 
+bool SelbstwertIstAbgeschnitten(std::span<const std::byte> rest, Selbstform form) {
+    if (rest.empty()) return false;
+    try {
+        static_cast<void>(SelbstwertLesen(rest, form));
+    } catch (const Abgeschnitten&) {
+        return true;
+    } catch (const Satzfehler&) {
+        return false;
+    }
+    return false;
+}
+
 Selbstwert SelbstwertAus(std::span<const std::byte> dateibytes, std::size_t satzlaenge, std::size_t satz,
                          Selbstform form) {
     const std::size_t anfang = (satz - 1) * satzlaenge;
     if (anfang >= dateibytes.size()) return {};
     const auto rest = dateibytes.subspan(anfang);
     if (rest.size() >= satzlaenge) return SelbstwertLesen(rest.first(satzlaenge), form);
-    try {
-        return SelbstwertLesen(rest, form);
-    } catch (const Abgeschnitten&) {
-        return {};
-    }
+    if (SelbstwertIstAbgeschnitten(rest, form)) return {};
+    return SelbstwertLesen(rest, form);
 }
 
 }  // namespace zinfolio

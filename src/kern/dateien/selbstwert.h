@@ -26,6 +26,9 @@ void SelbstwertSchreiben(const Selbstwert& wert, std::span<std::byte> satz,
 [[nodiscard]] Selbstwert SelbstwertLesen(std::span<const std::byte> satz,
                                          Selbstform form = Selbstform::MitKennung);
 
+/// True for bytes at the end of a file that begin a value and do not hold it wholly.
+[[nodiscard]] bool SelbstwertIstAbgeschnitten(std::span<const std::byte> rest, Selbstform form);
+
 /// Record `satz` (from 1) of a file's bytes. Empty where the file has no such record. The last record may be
 /// shorter than `satzlaenge`: a file may end with its last value's own bytes. It counts where it holds tag
 /// and value wholly, and is empty where it is cut. Throws as `SelbstwertLesen`.

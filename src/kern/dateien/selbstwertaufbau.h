@@ -120,7 +120,7 @@ void Nimm(W& ziel, const Selbstwert& wert, const Selbstangaben& angaben) {
 }
 
 template <class T, auto Zugriff>
-constexpr Selbstwertzeile<T> Zeile(std::size_t satz, Selbstform form, const Selbstangaben& angaben) {
+static constexpr Selbstwertzeile<T> Zeile(std::size_t satz, Selbstform form, const Selbstangaben& angaben) {
     using Feld = std::remove_cvref_t<std::invoke_result_t<decltype(Zugriff), T&>>;
     return {
         satz,
@@ -154,13 +154,15 @@ void AnSatz(const std::filesystem::path& datei, std::size_t satz, Arbeit arbeit)
 /// or an array of them. `Zugriff` is the pointer to the member, or a function from `T&` to the member where
 /// it lies deeper or in a base.
 template <auto Zugriff, class T = typename selbst::Mitgliedvon<decltype(Zugriff)>::Typ>
-[[nodiscard]] constexpr Selbstwertzeile<T> Selbstfeld(std::size_t satz, const Selbstangaben& angaben = {}) {
+[[nodiscard]] static constexpr Selbstwertzeile<T> Selbstfeld(std::size_t satz,
+                                                             const Selbstangaben& angaben = {}) {
     return selbst::Zeile<T, Zugriff>(satz, Selbstform::MitKennung, angaben);
 }
 
 /// A row without type tag: a text behind its length, or a bare integer.
 template <auto Zugriff, class T = typename selbst::Mitgliedvon<decltype(Zugriff)>::Typ>
-[[nodiscard]] constexpr Selbstwertzeile<T> Barfeld(std::size_t satz, const Selbstangaben& angaben = {}) {
+[[nodiscard]] static constexpr Selbstwertzeile<T> Barfeld(std::size_t satz,
+                                                          const Selbstangaben& angaben = {}) {
     using Feld = std::remove_cvref_t<std::invoke_result_t<decltype(Zugriff), T&>>;
     using Element = typename selbst::Feldart<Feld>::Element;
     static_assert(!selbst::Wahlfrei<Element>::value && !std::is_same_v<Element, Selbstwert>);
@@ -192,6 +194,18 @@ struct Selbstwertaufbau {
             });
         });
         return werte;
+    }
+
+    /// Number of the last record, where the file's end cuts off the value that it began; nothing otherwise.
+    [[nodiscard]] std::optional<std::size_t> AbgeschnittenerSatz(std::span<const std::byte> bytes) const {
+        const std::size_t letzter = bytes.size() / satzlaenge + 1;
+        std::optional<std::size_t> abgeschnitten;
+        JeSatz([&](const Selbstwertzeile<T>& zeile, std::size_t satz, std::size_t) {
+            if (satz == letzter &&
+                SelbstwertIstAbgeschnitten(bytes.last(bytes.size() % satzlaenge), zeile.form))
+                abgeschnitten = satz;
+        });
+        return abgeschnitten;
     }
 
     /// Replaces the file, all or nothing. Throws `Dateifehler`, also for a text that its record cannot hold.

@@ -1,5 +1,7 @@
 #include "kern/grund/utf8.h"
 
+#include <vector>
+
 namespace zinfolio {
 namespace {
 
@@ -63,6 +65,22 @@ std::string Gekuerzt(std::string_view utf8, std::size_t hoechstens) {
     std::string text(utf8.substr(0, ende));
     if (ende < utf8.size()) text += "…";
     return text;
+}
+
+Utf8Zeichen Utf8Naechstes(std::string_view utf8) {
+    constexpr Utf8Zeichen keines{U'\uFFFD', 1};
+    return Utf8Lesen(utf8).value_or(keines);
+}
+
+std::string_view OhneLetzteZeichen(std::string_view utf8, std::size_t anzahl) {
+    std::vector<std::size_t> anfaenge;
+    std::size_t stelle = 0;
+    JedesUtf8Zeichen(utf8, [&](char32_t, std::string_view bytes) {
+        anfaenge.push_back(stelle);
+        stelle += bytes.size();
+    });
+    return anfaenge.size() <= anzahl ? std::string_view()
+                                     : utf8.substr(0, anfaenge[anfaenge.size() - anzahl]);
 }
 
 void Utf8Anhaengen(std::string& utf8, char32_t codepunkt) {

@@ -31,6 +31,24 @@ struct Utf8Zeichen {
 /// At most `hoechstens` characters of a UTF-8 text, with "…" behind where something was cut.
 [[nodiscard]] std::string Gekuerzt(std::string_view utf8, std::size_t hoechstens);
 
+/// The first character of a text; one byte as U+FFFD where its bytes are not well-formed UTF-8. REQUIRES: the
+/// text is not empty.
+[[nodiscard]] Utf8Zeichen Utf8Naechstes(std::string_view utf8);
+
+/// Gives each character of a text to `arbeit`, with its bytes as they stand; what is not well-formed goes
+/// byte by byte as U+FFFD.
+template <class Arbeit>
+void JedesUtf8Zeichen(std::string_view utf8, Arbeit arbeit) {
+    while (!utf8.empty()) {
+        const Utf8Zeichen zeichen = Utf8Naechstes(utf8);
+        arbeit(zeichen.codepunkt, utf8.substr(0, zeichen.laenge));
+        utf8.remove_prefix(zeichen.laenge);
+    }
+}
+
+/// A text without its last characters; empty where it has no more than so many.
+[[nodiscard]] std::string_view OhneLetzteZeichen(std::string_view utf8, std::size_t anzahl);
+
 /// Appends a character as UTF-8. REQUIRES: a Unicode character, no surrogate.
 void Utf8Anhaengen(std::string& utf8, char32_t codepunkt);
 

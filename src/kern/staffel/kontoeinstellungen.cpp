@@ -27,4 +27,12 @@ Kontoeinstellungswerte KontoeinstellungenLesen(const std::filesystem::path& ordn
     return einstellungsdatei.Lesen(ordner / name);
 }
 
+Kontoeinstellungswerte KontoeinstellungenAus(std::span<const std::byte> bytes,
+                                             const std::filesystem::path& datei,
+                                             std::vector<Befund>& befunde) {
+    if (const auto satz = einstellungsdatei.AbgeschnittenerSatz(bytes))
+        befunde.push_back({{datei, *satz}, "Der Wert ist abgeschnitten und zählt nicht."});
+    return einstellungsdatei.AusBytes(bytes, datei);
+}
+
 }  // namespace zinfolio

@@ -1,11 +1,15 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include "kern/dateien/dateibefund.h"
 #include "kern/dates/verzinsungsmethode.h"
 #include "kern/staffel/zinstermine.h"
 
@@ -35,5 +39,11 @@ void KontoeinstellungenSchreiben(const std::filesystem::path& ordner,
 /// list index that the list lacks, is a `Dateifehler`.
 [[nodiscard]] Kontoeinstellungswerte KontoeinstellungenLesen(const std::filesystem::path& ordner,
                                                              std::string_view name = "Zinsverrechnung");
+
+/// The same from the bytes of a file; `datei` is named in a fault. A value that the file's end cuts off is no
+/// value, and is added to `befunde`.
+[[nodiscard]] Kontoeinstellungswerte KontoeinstellungenAus(std::span<const std::byte> bytes,
+                                                           const std::filesystem::path& datei,
+                                                           std::vector<Befund>& befunde);
 
 }  // namespace zinfolio

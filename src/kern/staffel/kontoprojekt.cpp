@@ -2,83 +2,43 @@
 
 #include <algorithm>
 #include <array>
-#include <cstddef>
-#include <vector>
+#include <utility>
 
-#include "kern/dateien/atomar.h"
 #include "kern/dateien/dateifehler.h"
 #include "kern/dateien/ganzedatei.h"
-#include "kern/dateien/satzdatei.h"
-#include "kern/grund/utf8.h"
+#include "kern/staffel/staffeldatei.h"
 
 namespace zinfolio {
 namespace {
 
 namespace fs = std::filesystem;
 
-/// Far more than any account or notes; so that no file can fill the memory.
-constexpr std::size_t hoechsteDateilaenge = std::size_t{64} << 20;
-constexpr std::size_t endungslaenge = 4;
-
-/// A working file and its copy in a project.
-struct Projektteil {
-    std::string_view arbeitsdatei;
-    fs::path Projektpfade::*beidatei;
+// With a small z in the conditions' name, unlike the working file's (wanted).
+constexpr std::array<Beidatei, 3> beidateinamen{
+    Beidatei{"Zinsstaffel1", ""},
+    Beidatei{"Zinsstaffelzins", ""},
+    Beidatei{"Zinsverrechnung", ""},
 };
+constexpr Gruppenaufbau aufbau{".ZiS", beidateinamen};
 
-/// In the order in which they are copied.
-constexpr std::array projektteile{
-    Projektteil{"Zinsstaffel1", &Projektpfade::zahlungen},
-    Projektteil{"ZinsstaffelZins", &Projektpfade::konditionen},
-    Projektteil{"Zinsverrechnung", &Projektpfade::einstellungen},
-};
-
-constexpr std::array<std::string_view, 5> arbeitsdateien{"Zinsstaffel1", "ZinsstaffelZins", "Zinsverrechnung",
-                                                         "Zinsverrechnungstermine", "Lösungsdatei"};
-
-/// Where each character of a name begins; a byte that is no UTF-8 counts as one.
-std::vector<std::size_t> Zeichenanfaenge(std::string_view name) {
-    std::vector<std::size_t> anfaenge;
-    for (std::size_t i = 0; i < name.size();) {
-        anfaenge.push_back(i);
-        const auto zeichen = Utf8Lesen(name.substr(i));
-        i += zeichen ? zeichen->laenge : 1;
-    }
-    return anfaenge;
-}
-
-std::string Stamm(const fs::path& projektdatei) {
-    const std::string name = projektdatei.filename().string();
-    const auto anfaenge = Zeichenanfaenge(name);
-    if (anfaenge.size() <= endungslaenge) {
-        throw Dateifehler({projektdatei}, "Der Name ist zu kurz: vor der Endung \".ZiS\" steht nichts.");
-    }
-    return name.substr(0, anfaenge[anfaenge.size() - endungslaenge]);
-}
+/// The working files in the order of the side files.
+constexpr std::array<std::string_view, 3> arbeitsdateien{"Zinsstaffel1", "ZinsstaffelZins",
+                                                         "Zinsverrechnung"};
+constexpr std::array<std::string_view, 2> weitereArbeitsdateien{"Zinsverrechnungstermine", "Lösungsdatei"};
 
 /// A project in the working folder itself could take the place of what it is saved from.
 void ArbeitsdateiVerweigern(const fs::path& arbeitsordner, const fs::path& datei) {
     const std::string name = datei.filename().string();
-    if (std::find(arbeitsdateien.begin(), arbeitsdateien.end(), name) == arbeitsdateien.end()) return;
+    if (std::ranges::find(arbeitsdateien, name) == arbeitsdateien.end() &&
+        std::ranges::find(weitereArbeitsdateien, name) == weitereArbeitsdateien.end())
+        return;
     std::error_code fehler;
     const bool imArbeitsordner = fs::equivalent(fs::absolute(datei).parent_path(), arbeitsordner, fehler);
     if (fehler || !imArbeitsordner) return;
     throw Dateifehler({datei}, "So heißt hier schon eine Arbeitsdatei des Programms.");
 }
 
-void NamenPruefen(const fs::path& arbeitsordner, const Projektpfade& pfade) {
-    for (const fs::path& datei : {pfade.zahlungen, pfade.konditionen, pfade.einstellungen, pfade.projekt})
-        ArbeitsdateiVerweigern(arbeitsordner, datei);
-}
-
-std::vector<Staffelsatz> SaetzeLesen(const fs::path& datei) {
-    LesbarkeitPruefen(datei);
-    return Satzdatei<Staffelsatz>(datei.parent_path(), datei.filename().string()).Lesen();
-}
-
-Kontoeinstellungen EinstellungenLesen(const fs::path& datei) {
-    LesbarkeitPruefen(datei);
-    const auto werte = KontoeinstellungenLesen(datei.parent_path(), datei.filename().string());
+Kontoeinstellungen Einstellungen(const Kontoeinstellungswerte& werte) {
     const Kontoeinstellungen neue;
     return {werte.Zinsverrechnungsart.value_or(neue.Zinsverrechnungsart),
             werte.Kontodatum.value_or(neue.Kontodatum),
@@ -87,49 +47,54 @@ Kontoeinstellungen EinstellungenLesen(const fs::path& datei) {
 
 }  // namespace
 
+const Gruppenaufbau& Kontoprojektaufbau() {
+    return aufbau;
+}
+
 Projektpfade::Projektpfade(const fs::path& projektdatei) : projekt(projektdatei) {
-    const std::string stamm = Stamm(projektdatei);
-    const fs::path ordner = projektdatei.parent_path();
-    zahlungen = ordner / ("Zinsstaffel1" + stamm);
-    // With a small z, unlike the working file's name (wanted).
-    konditionen = ordner / ("Zinsstaffelzins" + stamm);
-    einstellungen = ordner / ("Zinsverrechnung" + stamm);
+    const Dateigruppe gruppe(projektdatei, aufbau);
+    zahlungen = gruppe.Datei(1);
+    konditionen = gruppe.Datei(2);
+    einstellungen = gruppe.Datei(3);
 }
 
 void KontoprojektSpeichern(const fs::path& arbeitsordner, const fs::path& projektdatei,
                            std::string_view notizen) {
-    const Projektpfade pfade(projektdatei);
-    NamenPruefen(arbeitsordner, pfade);
-    std::array<std::string, projektteile.size()> inhalte;
-    for (std::size_t i = 0; i < inhalte.size(); ++i)
-        inhalte[i] = GanzeDateiLesen(arbeitsordner / projektteile[i].arbeitsdatei, hoechsteDateilaenge);
-    std::vector<AtomareDatei> dateien;
-    dateien.reserve(inhalte.size() + 1);
-    for (std::size_t i = 0; i < inhalte.size(); ++i)
-        dateien.emplace_back(pfade.*projektteile[i].beidatei, AlsBytes(inhalte[i]), Sicherung::Dauerhaft);
-    dateien.emplace_back(pfade.projekt, AlsBytes(notizen), Sicherung::Dauerhaft);
-    for (AtomareDatei& datei : dateien)
-        datei.Vollenden();
-}
-
-std::string KontoprojektEinlesen(const fs::path& arbeitsordner, const fs::path& projektdatei) {
-    std::string notizen = GanzeDateiLesen(projektdatei, hoechsteDateilaenge);
-    const Projektpfade pfade(projektdatei);
-    for (const Projektteil& teil : projektteile) {
-        const std::string inhalt = GanzeDateiLesen(pfade.*teil.beidatei, hoechsteDateilaenge);
-        AtomarSchreiben(arbeitsordner / teil.arbeitsdatei, inhalt, Sicherung::Fluechtig);
+    const Dateigruppe gruppe(projektdatei, aufbau);
+    for (std::size_t i = 0; i < gruppe.Anzahl(); ++i)
+        ArbeitsdateiVerweigern(arbeitsordner, gruppe.Datei(i));
+    std::array<std::string, arbeitsdateien.size()> kopien;
+    std::vector<std::string_view> inhalte{notizen};
+    for (std::size_t i = 0; i < kopien.size(); ++i) {
+        kopien[i] = GanzeDateiLesen(arbeitsordner / arbeitsdateien[i], hoechsteDateilaenge);
+        inhalte.push_back(kopien[i]);
     }
-    return notizen;
+    gruppe.Speichern(inhalte, Sicherung::Dauerhaft);
 }
 
-Konto KontoprojektLesen(const fs::path& projektdatei) {
-    LesbarkeitPruefen(projektdatei);
-    const Projektpfade pfade(projektdatei);
-    Konto konto;
-    konto.zahlungen = SaetzeLesen(pfade.zahlungen);
-    konto.konditionen = SaetzeLesen(pfade.konditionen);
-    konto.einstellungen = EinstellungenLesen(pfade.einstellungen);
-    return konto;
+Kontoprojekt KontoprojektLesen(const fs::path& projektdatei) {
+    const Dateigruppe gruppe(projektdatei, aufbau);
+    std::vector<std::string> inhalte = gruppe.Lesen();
+    Kontoprojekt projekt;
+    projekt.notizen = std::move(inhalte[0]);
+    for (std::size_t i = 0; i < projekt.beidateien.size(); ++i)
+        projekt.beidateien[i] = std::move(inhalte[i + 1]);
+    const auto& [zahlungen, konditionen, einstellungen] = projekt.beidateien;
+    projekt.konto.zahlungen =
+        StaffelsaetzeAus(AlsBytes(zahlungen), zahlungsart::zahlung, gruppe.Datei(1), projekt.befunde);
+    projekt.konto.konditionen =
+        StaffelsaetzeAus(AlsBytes(konditionen), zahlungsart::kondition, gruppe.Datei(2), projekt.befunde);
+    projekt.konto.einstellungen =
+        Einstellungen(KontoeinstellungenAus(AlsBytes(einstellungen), gruppe.Datei(3), projekt.befunde));
+    return projekt;
+}
+
+void KontoprojektUebernehmen(const fs::path& arbeitsordner, const Kontoprojekt& projekt) {
+    std::vector<Dateigruppe::Teil> teile;
+    for (const std::string_view name : arbeitsdateien)
+        teile.push_back({arbeitsordner / name});
+    const std::vector<std::string_view> inhalte(projekt.beidateien.begin(), projekt.beidateien.end());
+    Dateigruppe(std::move(teile)).Speichern(inhalte, Sicherung::Fluechtig);
 }
 
 }  // namespace zinfolio

@@ -2,13 +2,20 @@
 // An account as a project: the notes under the name that the user chose, and beside them copies of the three
 // working files.
 
+#include <array>
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include "kern/dateien/dateibefund.h"
+#include "kern/dateien/dateigruppe.h"
 #include "kern/staffel/konto.h"
 
 namespace zinfolio {
+
+/// The ending of a project and the names of its side files.
+[[nodiscard]] const Gruppenaufbau& Kontoprojektaufbau();
 
 /// The four files of a project.
 struct Projektpfade {
@@ -26,20 +33,31 @@ struct Projektpfade {
     std::filesystem::path einstellungen;
 };
 
-/// Saves the working files of a folder and the notes as a project, over one that exists. All four are
-/// complete on the disk before the first takes its place; the project file is the last. Throws `Dateifehler`:
-/// for a missing working file, a full disk, a folder or file without right to write, and for a name that a
-/// working file of the same folder has. Nothing has changed then, unless the system failed between two files.
+/// A project as it lies on the disk: read as a whole and found to make sense.
+struct Kontoprojekt {
+    /// Byte for byte.
+    std::string notizen;
+    /// A setting that its record lacks is that of a new account.
+    Konto konto;
+    /// What a calculation would pass over in silence.
+    std::vector<Befund> befunde;
+    /// The three side files, byte for byte: payments, conditions, settings.
+    std::array<std::string, 3> beidateien;
+};
+
+/// Saves the working files of a folder and the notes as a project, over one that exists: all four files or
+/// none, see `Dateigruppe`. Throws `Dateifehler`: for a missing working file, a full disk, a folder or file
+/// without right to write, a file too large to be opened again, and for a name that a working file of the
+/// same folder has.
 void KontoprojektSpeichern(const std::filesystem::path& arbeitsordner,
                            const std::filesystem::path& projektdatei, std::string_view notizen);
 
-/// Copies the side files over the working files of a folder and gives the notes, byte for byte. A file that
-/// is missing or cannot be read is a `Dateifehler`; what was copied before it stays.
-[[nodiscard]] std::string KontoprojektEinlesen(const std::filesystem::path& arbeitsordner,
-                                               const std::filesystem::path& projektdatei);
+/// The whole project, read where it lies: nothing is created or changed, except that a save that died is set
+/// back. A missing file, a record of another kind than its file's and one without sense are a `Dateifehler`.
+[[nodiscard]] Kontoprojekt KontoprojektLesen(const std::filesystem::path& projektdatei);
 
-/// The account of a project, read where it lies: nothing is created or changed. A setting that its record
-/// lacks is that of a new account. A missing file and a record without sense are a `Dateifehler`.
-[[nodiscard]] Konto KontoprojektLesen(const std::filesystem::path& projektdatei);
+/// Puts the side files in the place of the working files of a folder, all three or none. Throws
+/// `Dateifehler`.
+void KontoprojektUebernehmen(const std::filesystem::path& arbeitsordner, const Kontoprojekt& projekt);
 
 }  // namespace zinfolio

@@ -10,6 +10,7 @@
 #include "stapel/befehle/aufruf.h"
 #include "stapel/befehle/befehle.h"
 #include "stapel/befehle/eingaben.h"
+#include "stapel/befehle/kanal.h"
 #include "stapel/befehle/optionen.h"
 
 namespace zinfolio {
@@ -139,8 +140,16 @@ std::vector<fs::path> Eingaben(const Staffelaufruf& aufruf) {
     return {pfade.projekt, pfade.zahlungen, pfade.konditionen, pfade.einstellungen};
 }
 
+/// A project's account; what its files hold and no calculation would mention is told.
+Konto ProjektLesen(const fs::path& datei) {
+    Kontoprojekt projekt = KontoprojektLesen(datei);
+    for (const Befund& befund : projekt.befunde)
+        FehlerMelden(Befundtext(befund));
+    return std::move(projekt.konto);
+}
+
 Konto KontoLesen(const Staffelaufruf& aufruf) {
-    if (!aufruf.projekt.empty()) return KontoprojektLesen(aufruf.projekt);
+    if (!aufruf.projekt.empty()) return ProjektLesen(aufruf.projekt);
     Konto konto;
     konto.zahlungen = TabelleLesen(aufruf.zahlungen, ZahlungenAusCsv);
     konto.konditionen = TabelleLesen(aufruf.zinssaetze, KonditionenAusCsv);

@@ -65,11 +65,25 @@ TEST(Projektpfade, EinNameAusHoechstensVierZeichenIstEinFehler) {
                     "Datei \"/a/.ZiS\": Der Name ist zu kurz: vor der Endung \".ZiS\" steht nichts."));
 }
 
-/// Bytes that no text has, and a torn record at the end.
-std::string Satzbytes(std::size_t laenge, unsigned char erstes) {
-    std::string bytes(laenge, '\0');
-    for (std::size_t i = 0; i < laenge; ++i)
-        bytes[i] = static_cast<char>(erstes + 7 * i);
+/// Rows as a file holds them, each with every byte after its date counting on from `erstes`.
+std::string Satzbytes(const Staffelsatz& satz, std::size_t anzahl, unsigned char erstes) {
+    std::array<std::byte, 129> bytes{};
+    satz.Schreiben(bytes);
+    constexpr std::size_t hinterDemDatum = 37;
+    for (std::size_t i = hinterDemDatum; i < bytes.size(); ++i)
+        bytes[i] = static_cast<std::byte>(erstes + 7 * i);
+    std::string alle;
+    while (anzahl-- > 0)
+        for (const std::byte b : bytes)
+            alle += static_cast<char>(b);
+    return alle;
+}
+
+/// The settings of record 2 alone, and bytes behind its value that mean nothing.
+std::string Einstellungsbytes() {
+    std::string bytes(90, '\0');
+    bytes.replace(30, 14, "\x08\0\x0A\0"s + "31.12.2007");
+    bytes.replace(44, 16, 16, '\xFF');
     return bytes;
 }
 
@@ -78,9 +92,10 @@ class KontoprojektTest : public testing::Test {
     Testordner arbeit;
     Testordner ablage;
     fs::path projekt = ablage.Pfad() / "Mein Konto.alt für Öl.ZiS";
-    const std::string zahlungen = Satzbytes(2 * 129 + 5, 1);
-    const std::string konditionen = Satzbytes(129, 100);
-    const std::string einstellungen = Satzbytes(90, 200);
+    // A torn record at the end goes with the others.
+    const std::string zahlungen = Satzbytes(Zahlung("01.01.2007", 1), 2, 1) + "Rest";
+    const std::string konditionen = Satzbytes(Kondition("01.01.2007", beispielkonditionen), 1, 100);
+    const std::string einstellungen = Einstellungsbytes();
     const std::string notizen = "{\\rtf1\\ansi Notizen\\par}\r\n\0\xFF Rest"s;
 
     void SetUp() override {
@@ -89,7 +104,12 @@ class KontoprojektTest : public testing::Test {
         arbeit.Ablegen("Zinsverrechnung", einstellungen);
     }
     void Speichern() const { KontoprojektSpeichern(arbeit.Pfad(), projekt, notizen); }
-    [[nodiscard]] std::string Einlesen() const { return KontoprojektEinlesen(arbeit.Pfad(), projekt); }
+    /// Opens the project; gives its notes.
+    [[nodiscard]] std::string Einlesen() const {
+        const Kontoprojekt gelesen = KontoprojektLesen(projekt);
+        KontoprojektUebernehmen(arbeit.Pfad(), gelesen);
+        return gelesen.notizen;
+    }
 
     void AltesProjektAblegen() const {
         ablage.Ablegen("Mein Konto.alt für Öl.ZiS", "alte Notizen");
@@ -178,13 +198,13 @@ TEST_F(KontoprojektTest, VorDerErstenBerechnungGespeichertGehtEsAufWieJedesAnder
     dateien.Zahlungen().Schreiben(std::vector{Zahlung("01.01.2007", 1)});
     EXPECT_EQ(Einlesen(), notizen);
     EXPECT_EQ(dateien.Zahlungen().Anzahl(), 0U);
-    const Konto konto = KontoprojektLesen(projekt);
+    const Konto konto = KontoprojektLesen(projekt).konto;
     EXPECT_THAT(konto.zahlungen, IsEmpty());
     EXPECT_THAT(konto.konditionen, IsEmpty());
     EXPECT_EQ(konto.einstellungen.Kontodatum, "");
 }
 
-TEST_F(KontoprojektTest, FehlendeBeidateiNenntSichUndWasVorIhrKopiertWarBleibt) {
+TEST_F(KontoprojektTest, FehlendeBeidateiNenntSichUndNichtsWirdKopiert) {
     const std::array<const char*, 3> beidateien{"Zinsstaffel1Mein Konto.alt für Öl",
                                                 "ZinsstaffelzinsMein Konto.alt für Öl",
                                                 "ZinsverrechnungMein Konto.alt für Öl"};
@@ -196,8 +216,7 @@ TEST_F(KontoprojektTest, FehlendeBeidateiNenntSichUndWasVorIhrKopiertWarBleibt) 
         fs::remove(ablage.Pfad() / beidateien.at(fehlende));
         EXPECT_THAT([this] { (void)Einlesen(); },
                     ThrowsMessage<Dateifehler>(HasSubstr("/"s + beidateien.at(fehlende) + "\" kann nicht")));
-        EXPECT_THAT(Arbeitsinhalt(),
-                    ElementsAre(fehlende > 0 ? zahlungen : "alt", fehlende > 1 ? konditionen : "alt", "alt"));
+        EXPECT_THAT(Arbeitsinhalt(), ElementsAre("alt", "alt", "alt"));
     }
 }
 
@@ -299,7 +318,8 @@ TEST_F(KontoprojektTest, SonstGehenDieseNamenUndDerArbeitsordnerAuch) {
     EXPECT_EQ(ablage.Inhalt("Zinsstaffel1"), notizen);
     EXPECT_EQ(ablage.Inhalt("Zinsstaffel1Zinsstaf"), zahlungen);
     KontoprojektSpeichern(arbeit.Pfad(), arbeit.Pfad() / "Konto.ZiS", notizen);
-    EXPECT_EQ(KontoprojektEinlesen(arbeit.Pfad(), arbeit.Pfad() / "Konto.ZiS"), notizen);
+    projekt = arbeit.Pfad() / "Konto.ZiS";
+    EXPECT_EQ(Einlesen(), notizen);
     EXPECT_THAT(Arbeitsinhalt(), ElementsAre(zahlungen, konditionen, einstellungen));
 }
 
@@ -314,10 +334,16 @@ class KontoprojektLesenTest : public KontoprojektTest {
                                                     Verzinsungsmethode::franzoesisch});
         Speichern();
     }
+    [[nodiscard]] std::vector<std::string> Befunde() const {
+        std::vector<std::string> texte;
+        for (const Befund& befund : KontoprojektLesen(projekt).befunde)
+            texte.push_back(Befundtext(befund));
+        return texte;
+    }
 };
 
 TEST_F(KontoprojektLesenTest, GibtSaetzeInIhrerOrdnungUndEinstellungen) {
-    const Konto konto = KontoprojektLesen(projekt);
+    const Konto konto = KontoprojektLesen(projekt).konto;
     EXPECT_THAT(konto.zahlungen, ElementsAre(Zahlung("01.02.2007", 1, "Miete"), Zahlung("01.01.2007", 2)));
     EXPECT_THAT(konto.konditionen, ElementsAre(Kondition("01.01.2007", beispielkonditionen)));
     EXPECT_EQ(konto.einstellungen.Zinsverrechnungsart, Zinsverrechnungsart::quartalsende);
@@ -342,13 +368,13 @@ TEST_F(KontoprojektLesenTest, LegtNichtsAnAuchWennEtwasFehlt) {
 TEST_F(KontoprojektLesenTest, AngerissenerSatzZaehltNicht) {
     const std::string ganz = ablage.Inhalt("Zinsstaffel1Mein Konto.alt für Öl");
     ablage.Ablegen("Zinsstaffel1Mein Konto.alt für Öl", ganz.substr(0, 2 * 129 - 1));
-    EXPECT_THAT(KontoprojektLesen(projekt).zahlungen, SizeIs(1));
+    EXPECT_THAT(KontoprojektLesen(projekt).konto.zahlungen, SizeIs(1));
     EXPECT_EQ(ablage.Inhalt("Zinsstaffel1Mein Konto.alt für Öl").size(), 2U * 129 - 1);
 }
 
 TEST_F(KontoprojektLesenTest, FehlendeEinstellungenSindDieEinesNeuenKontos) {
     ablage.Ablegen("ZinsverrechnungMein Konto.alt für Öl", "");
-    const Konto konto = KontoprojektLesen(projekt);
+    const Konto konto = KontoprojektLesen(projekt).konto;
     EXPECT_EQ(konto.einstellungen.Zinsverrechnungsart, Zinsverrechnungsart::jahresende);
     EXPECT_EQ(konto.einstellungen.Kontodatum, "");
     EXPECT_EQ(konto.einstellungen.Verzinsungsmethode, Verzinsungsmethode::deutsch);
@@ -361,6 +387,94 @@ TEST_F(KontoprojektLesenTest, FalscherWertNenntDateiUndSatz) {
     EXPECT_THAT([this] { (void)KontoprojektLesen(projekt); },
                 ThrowsMessage<Dateifehler>(HasSubstr(
                     "ZinsverrechnungMein Konto.alt für Öl\", Satz 3: Die Liste hat keinen Eintrag 5.")));
+}
+
+TEST_F(KontoprojektLesenTest, AbgerissenerSatzWirdMitDateiUndSatzGenannt) {
+    const std::string name = "Zinsstaffel1Mein Konto.alt für Öl";
+    ablage.Ablegen(name, ablage.Inhalt(name).substr(0, 2 * 129 - 1));
+    EXPECT_THAT(Befunde(),
+                ElementsAre("Datei \"" + (ablage.Pfad() / name).string() +
+                            "\", Satz 2: Der Satz ist abgerissen (128 von 129 Bytes) und zählt nicht."));
+}
+
+TEST_F(KontoprojektLesenTest, DatumDasKeinesIstWirdGenanntUndDieZeileBleibt) {
+    const std::string name = "ZinsstaffelzinsMein Konto.alt für Öl";
+    std::string bytes = ablage.Inhalt(name);
+    bytes.replace(27, 10, "30.02.2007");
+    ablage.Ablegen(name, bytes);
+    EXPECT_THAT(Befunde(), ElementsAre("Datei \"" + (ablage.Pfad() / name).string() +
+                                       "\", Satz 1: \"30.02.2007\" ist kein Datum."));
+    EXPECT_THAT(KontoprojektLesen(projekt).konto.konditionen, SizeIs(1));
+}
+
+TEST_F(KontoprojektLesenTest, UnleserlichesDatumWirdMitPunktenGezeigt) {
+    const std::string name = "Zinsstaffel1Mein Konto.alt für Öl";
+    std::string bytes = ablage.Inhalt(name);
+    bytes.replace(129 + 27, 10, "\0\x01\xFC 07\n\x1Fxy"s);
+    ablage.Ablegen(name, bytes);
+    EXPECT_THAT(Befunde(), ElementsAre(HasSubstr("Satz 2: \"..ü 07..xy\" ist kein Datum.")));
+}
+
+TEST_F(KontoprojektLesenTest, AbgeschnitteneEinstellungWirdGenannt) {
+    const std::string name = "ZinsverrechnungMein Konto.alt für Öl";
+    ablage.Ablegen(name, ablage.Inhalt(name).substr(0, 63));
+    EXPECT_THAT(Befunde(), ElementsAre(HasSubstr("Satz 3: Der Wert ist abgeschnitten und zählt nicht.")));
+    EXPECT_EQ(KontoprojektLesen(projekt).konto.einstellungen.Verzinsungsmethode, Verzinsungsmethode::deutsch);
+}
+
+TEST_F(KontoprojektLesenTest, GanzesProjektHatKeinenBefund) {
+    EXPECT_THAT(Befunde(), IsEmpty());
+}
+
+TEST_F(KontoprojektLesenTest, SatzAndererArtVerweigertDieDateiUndNichtsWirdKopiert) {
+    const std::string name = "ZinsstaffelzinsMein Konto.alt für Öl";
+    ablage.Ablegen(name, ablage.Inhalt(name) + ablage.Inhalt("Zinsstaffel1Mein Konto.alt für Öl"));
+    for (const char* datei : {"Zinsstaffel1", "ZinsstaffelZins", "Zinsverrechnung"})
+        arbeit.Ablegen(datei, "alt");
+    EXPECT_THAT(
+        [this] { (void)Einlesen(); },
+        ThrowsMessage<Dateifehler>("Datei \"" + (ablage.Pfad() / name).string() +
+                                   "\", Satz 2: Der Satz ist eine Zahlung, erwartet wird ein Zinssatz."));
+    EXPECT_THAT(Arbeitsinhalt(), ElementsAre("alt", "alt", "alt"));
+}
+
+TEST_F(KontoprojektLesenTest, SatzOhneArtVerweigertDieDatei) {
+    ablage.Ablegen("Zinsstaffel1Mein Konto.alt für Öl", std::string(129, '\0'));
+    EXPECT_THAT([this] { (void)KontoprojektLesen(projekt); },
+                ThrowsMessage<Dateifehler>(
+                    HasSubstr("Satz 1: Der Satz ist unbekannter Art (0), erwartet wird eine Zahlung.")));
+}
+
+TEST_F(KontoprojektLesenTest, ZuVieleSaetzeVerweigernDieDatei) {
+    const std::string name = "Zinsstaffel1Mein Konto.alt für Öl";
+    const std::string satz = ablage.Inhalt(name).substr(0, 129);
+    std::string bytes;
+    for (int i = 0; i < 32768; ++i)
+        bytes += satz;
+    ablage.Ablegen(name, bytes);
+    EXPECT_THAT([this] { (void)KontoprojektLesen(projekt); },
+                ThrowsMessage<Dateifehler>(HasSubstr("32768 Sätze, höchstens 32767 sind möglich.")));
+}
+
+TEST_F(KontoprojektTest, WasNichtWiederAufgingeWirdNichtGespeichert) {
+    AltesProjektAblegen();
+    const std::string zuGross((std::size_t{64} << 20) + 1, 'x');
+    EXPECT_THAT([&] { KontoprojektSpeichern(arbeit.Pfad(), projekt, zuGross); },
+                ThrowsMessage<Dateifehler>(HasSubstr("Die Datei wird zu groß.")));
+    ExpectAltesProjekt();
+}
+
+TEST_F(KontoprojektTest, ScheiterndesUebernehmenLaesstAlleArbeitsdateien) {
+    Speichern();
+    const Kontoprojekt gelesen = KontoprojektLesen(projekt);
+    arbeit.Ablegen("Zinsstaffel1", "alt");
+    arbeit.Ablegen("ZinsstaffelZins", "alt");
+    fs::remove(arbeit.Pfad() / "Zinsverrechnung");
+    fs::create_directory(arbeit.Pfad() / "Zinsverrechnung");
+    EXPECT_THROW(KontoprojektUebernehmen(arbeit.Pfad(), gelesen), Dateifehler);
+    EXPECT_EQ(arbeit.Inhalt("Zinsstaffel1"), "alt");
+    EXPECT_EQ(arbeit.Inhalt("ZinsstaffelZins"), "alt");
+    EXPECT_THAT(arbeit.Namen(), SizeIs(3));
 }
 
 }  // namespace
