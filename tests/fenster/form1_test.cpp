@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QMenuBar>
 #include <QPushButton>
+#include <fstream>
 
 #include "fenster/formhelfer.h"
 #include "fenster/staffel/form48000.h"
@@ -103,14 +104,14 @@ class Form1Test : public QObject {
         QVERIFY(Ordnersperre(ordner.Pfad()).Gehalten());
     }
 
-    void sperreEinesAbgestuerztenProgrammsHaeltNicht() {
+    void wasInDerSperrdateiStehtSperrtNiemanden() {
         const Testordner ordner;
-        QFile verwaist(QString::fromStdString((ordner.Pfad() / "zinfolio.lock").string()));
-        QVERIFY(verwaist.open(QIODevice::WriteOnly));
-        // No process has this number: the kernel's limit lies below.
-        verwaist.write("99999999\nzinfolio\n" + QSysInfo::machineHostName().toUtf8() + "\n");
-        verwaist.close();
-        QVERIFY(Ordnersperre(ordner.Pfad()).Gehalten());
+        const std::string lebende = std::to_string(QCoreApplication::applicationPid()) + "\nzinfolio\n" +
+                                    QSysInfo::machineHostName().toStdString() + "\n";
+        for (const std::string& inhalt : {std::string(), lebende, std::string("unleserlich")}) {
+            std::ofstream(ordner.Pfad() / "zinfolio.lock") << inhalt;
+            QVERIFY(Ordnersperre(ordner.Pfad()).Gehalten());
+        }
     }
 };
 

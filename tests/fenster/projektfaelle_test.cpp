@@ -210,7 +210,7 @@ class ProjektfaelleTest : public QObject {
         fs::permissions(ablage_->Pfad(), fs::perms{0755});
         QCOMPARE(zeuge.texte.size(), 1);
         QVERIFY2(zeuge.texte[0].startsWith(nichtGespeichert), qPrintable(zeuge.texte[0]));
-        QVERIFY2(zeuge.texte[0].contains("Zinsstaffel1Konto"), qPrintable(zeuge.texte[0]));
+        QVERIFY2(zeuge.texte[0].contains("Konto.ZiS"), qPrintable(zeuge.texte[0]));
         QVERIFY(fs::is_empty(ablage_->Pfad()));
         QCOMPARE(Text("Projekt"), "");
         QVERIFY(form_->isWindowModified());

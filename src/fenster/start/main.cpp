@@ -7,12 +7,14 @@
 #include "fenster/ui/entertaste.h"
 #include "fenster/ui/meldungsfenster.h"
 #include "kern/dateien/arbeitsordner.h"
+#include "kern/dateien/dateigruppe.h"
 
 namespace {
 
 using namespace zinfolio;
 
-/// Makes the working folder and takes hold of it; where that is not possible the user is told why.
+/// Makes the working folder, takes hold of it and puts it in order; where that is not possible the user is
+/// told why.
 bool OrdnerBereit(const std::filesystem::path& ordner, std::optional<Ordnersperre>& sperre) {
     try {
         ArbeitsordnerAnlegen(ordner);
@@ -22,7 +24,10 @@ bool OrdnerBereit(const std::filesystem::path& ordner, std::optional<Ordnersperr
         return false;
     }
     sperre.emplace(ordner);
-    if (sperre->Gehalten()) return true;
+    if (sperre->Gehalten()) {
+        OrdnerAufraeumen(ordner);
+        return true;
+    }
     const QString text = sperre->Besetzt() ? "Das Programm läuft bereits. Es kann nur einmal geöffnet sein."
                                            : "Im Arbeitsordner %1 kann nicht geschrieben werden.";
     MeldungZeigen(nullptr,

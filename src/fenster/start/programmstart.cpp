@@ -1,23 +1,16 @@
 #include "fenster/start/programmstart.h"
 
-#include <QLockFile>
-
 namespace zinfolio {
 
 Ordnersperre::Ordnersperre(const std::filesystem::path& ordner)
-    : sperre_(std::make_unique<QLockFile>(QString::fromStdString((ordner / "zinfolio.lock").string()))) {
-    sperre_->setStaleLockTime(0);
-    sperre_->tryLock();
-}
-
-Ordnersperre::~Ordnersperre() = default;
+    : sperre_(Sperre::AnDatei(ordner / "zinfolio.lock")) {}
 
 bool Ordnersperre::Gehalten() const {
-    return sperre_->isLocked();
+    return sperre_.Gehalten() || sperre_.Stand() == Sperre::Zustand::unmoeglich;
 }
 
 bool Ordnersperre::Besetzt() const {
-    return sperre_->error() == QLockFile::LockFailedError;
+    return sperre_.Stand() == Sperre::Zustand::besetzt;
 }
 
 bool KehrtZumStartZurueck(const QString& kommandozeile) {

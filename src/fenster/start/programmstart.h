@@ -2,27 +2,26 @@
 
 #include <QString>
 #include <filesystem>
-#include <memory>
 
-class QLockFile;
+#include "kern/dateien/sperre.h"
 
 namespace zinfolio {
 
 /// The program's hold on its working folder. Two running programs would overwrite each other's working files,
-/// so a second one is refused while the first lives; after a crash the next one takes over at once.
+/// so a second one is refused while the first lives; after a crash the next one takes over at once. What the
+/// lock file holds, and what it is, does not matter: the kernel keeps the lock.
 class Ordnersperre {
   public:
     explicit Ordnersperre(const std::filesystem::path& ordner);
-    ~Ordnersperre();
 
-    /// True where this program holds the folder.
+    /// True where this program holds the folder, or where its file system knows no locks.
     [[nodiscard]] bool Gehalten() const;
 
     /// True where another running program holds it.
     [[nodiscard]] bool Besetzt() const;
 
   private:
-    std::unique_ptr<QLockFile> sperre_;
+    Sperre sperre_;
 };
 
 /// True where leaving a calculator leads back to the start screen: the command line is empty or names the
