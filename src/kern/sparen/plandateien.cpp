@@ -34,6 +34,13 @@ std::string MitNummer(std::string_view name, std::size_t nummer) {
 
 }  // namespace
 
+Sparplan SparplanLesen(const Sparform& form, const std::filesystem::path& datei) {
+    Sparplan plan = form.plandatei.Lesen(datei);
+    const std::string_view delta2 = Getrimmt(plan.Delta2);
+    if (delta2 == einheitProzent || delta2 == einheitBetrag) plan.Delta2 = "0";
+    return plan;
+}
+
 Plandateien::Plandateien(const Sparform& sparform, std::filesystem::path arbeitsordner)
     : form(&sparform), ordner(std::move(arbeitsordner)) {}
 
@@ -74,10 +81,7 @@ void Plandateien::NamenSchreiben(const Planindex& index) const {
 
 Sparplan Plandateien::Laden(std::size_t k) const {
     Anlegen(Planpfad(k));
-    Sparplan plan = form->plandatei.Lesen(Planpfad(k));
-    const std::string_view delta2 = Getrimmt(plan.Delta2);
-    if (delta2 == einheitProzent || delta2 == einheitBetrag) plan.Delta2 = "0";
-    return plan;
+    return SparplanLesen(*form, Planpfad(k));
 }
 
 std::string Plandateien::Notizen(std::size_t k) const {

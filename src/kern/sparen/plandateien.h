@@ -21,6 +21,10 @@ struct Planindex {
     std::int16_t aktuell = 0;
 };
 
+/// The plan of a file; a missing one and each record that is missing give what a new plan has. "%" or "€" in
+/// the place of an amount of change, as older files hold it, is "0". A damaged record is a `Dateifehler`.
+[[nodiscard]] Sparplan SparplanLesen(const Sparform& form, const std::filesystem::path& datei);
+
 /// The files of one form's plans in one folder. All operations throw `Dateifehler`.
 class Plandateien {
   public:

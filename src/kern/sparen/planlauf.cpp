@@ -1,5 +1,6 @@
 #include "kern/sparen/planlauf.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "kern/dateien/satzdatei.h"
@@ -15,18 +16,29 @@
 namespace zinfolio {
 namespace {
 
-/// What the rows of rates are called: the first one, and those behind it.
+Festtext<25> Zahlungstext(std::string_view utf8) {
+    return Festtext<25>::AusWindows1252(NachWindows1252(utf8));
+}
+
+/// What the rows of rates are called.
 struct Ratentexte {
     Festtext<25> erste;
     Festtext<25> weitere;
+    /// For amounts up to 0.
+    Festtext<25> auszahlung;
+
+    [[nodiscard]] const Festtext<25>& Weitere(double betrag) const {
+        return betrag <= 0 ? auszahlung : weitere;
+    }
 };
 
-/// The small letter in the simple form is intended to stay.
-Ratentexte TexteFuer(Dynamik dynamik, double erste, double weitere) {
-    const auto text = [](std::string_view t) { return Festtext<25>::AusWindows1252(t); };
-    if (dynamik == Dynamik::einfach) return {text("Rate"), text("rate")};
-    const auto nachVorzeichen = [&](double betrag) { return text(betrag <= 0 ? "Auszahlung" : "Zahlung"); };
-    return {nachVorzeichen(erste), nachVorzeichen(weitere)};
+Ratentexte TexteFuer(Dynamik dynamik, double startrate) {
+    const Festtext<25> zahlung = Zahlungstext("Zahlung");
+    // The simple form does not tell the sign, and its small letter is intended to stay.
+    if (dynamik == Dynamik::einfach)
+        return {Zahlungstext("Rate"), Zahlungstext("rate"), Zahlungstext("rate")};
+    const Festtext<25> auszahlung = Zahlungstext("Auszahlung");
+    return {startrate <= 0 ? auszahlung : zahlung, zahlung, auszahlung};
 }
 
 /// Puts payments one behind the other.
@@ -47,10 +59,6 @@ class Zahlungsschreiber {
     std::vector<Staffelsatz>& ziel;
 };
 
-Festtext<25> Zahlungstext(std::string_view utf8) {
-    return Festtext<25>::AusWindows1252(NachWindows1252(utf8));
-}
-
 Konditionen EinZins(float zins) {
     return {.Gutzins1 = zins,
             .Gutzins2 = zins,
@@ -59,6 +67,13 @@ Konditionen EinZins(float zins) {
             .Kreditzins2 = zins,
             .Kreditlinie = 0,
             .Zweitzinsart = 1};
+}
+
+/// Room for all rows up to the end of a plan.
+std::size_t HoechstensRaten(const Sparplan& plan, Datum ende) {
+    const int monate = 12 * (ende.Jahr() - Datum::Lesen(plan.ratdatum1).Jahr() + 1);
+    const int raten = std::max(0, monate / Zahlungsmonate(plan));
+    return std::min(static_cast<std::size_t>(raten) + 3, HoechstzahlSaetze);
 }
 
 void TermineSchreiben(const Sparplan& plan, Datum anfang, Datum ende, std::vector<Staffelsatz>& ziel) {
@@ -103,8 +118,10 @@ void RatenErzeugen(const Sparform& form, const Sparplan& plan, const Planprobe& 
     Zahlungsschreiber schreiber(ziel);
     schreiber.Schreibe(plan.Anfdatum, Startkapital(plan, probe), Zahlungstext("Anfangsvermögen"));
     const double startrate = Startrate(plan, probe);
-    schreiber.Schreibe(plan.ratdatum1, startrate, TexteFuer(form.dynamik, startrate, startrate).erste);
+    const Ratentexte texte = TexteFuer(form.dynamik, startrate);
+    schreiber.Schreibe(plan.ratdatum1, startrate, texte.erste);
     const Datum ende = Planende(plan, probe);
+    ziel.reserve(HoechstensRaten(plan, ende));
     Ratenfolge folge(form, plan, startrate);
     Ratentage tage(plan);
     while (true) {
@@ -112,7 +129,7 @@ void RatenErzeugen(const Sparform& form, const Sparplan& plan, const Planprobe& 
         if (ende < rohes) break;
         const Datum tag = tage.Weiter(rohes);
         const double rate = folge.Naechste();
-        schreiber.Schreibe(tag.Text(), rate, TexteFuer(form.dynamik, startrate, rate).weitere);
+        schreiber.Schreibe(tag.Text(), rate, texte.Weitere(rate));
     }
     if (probe.mitEndvermoegen)
         schreiber.Schreibe(plan.Enddatum, -Zahl(plan.Vermendwert), Zahlungstext("Endvermögen"));
