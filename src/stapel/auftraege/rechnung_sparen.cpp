@@ -5,9 +5,9 @@
 
 #include "kern/sparen/meldungen.h"
 #include "kern/sparen/sparrechnung.h"
-#include "stapel/auftraege/ergebnisse.h"
 #include "stapel/auftraege/felder.h"
 #include "stapel/auftraege/rechnungen.h"
+#include "stapel/auftraege/sparergebnis.h"
 #include "stapel/json/auftragsfehler.h"
 
 namespace zinfolio {
@@ -131,35 +131,13 @@ Sparplan PlanAus(const Sparauftrag& auftrag) {
     return plan;
 }
 
-void LoesungSchreiben(const Sparform& form, const Sparergebnis& gerechnet, JsonSchreiber& ergebnis) {
-    switch (form.ziel) {
-        case Sparziel::endkapital:
-            return ergebnis.Feld("Endkapital", gerechnet.loesung);
-        case Sparziel::sparrate:
-            return ergebnis.Feld("Sparrate", gerechnet.loesung);
-        case Sparziel::rendite:
-            ergebnis.Feld("Nzins", gerechnet.Nzins);
-            return ergebnis.Feld("Nominalzins", gerechnet.loesung);
-        case Sparziel::anspardauer:
-            return ergebnis.Feld("Enddatum", gerechnet.Enddatum);
-        case Sparziel::anfangskapital:
-            return ergebnis.Feld("Anfangskapital", gerechnet.loesung);
-    }
-}
-
 std::optional<Ablehnung> Rechne(const Sparauftrag& auftrag, JsonSchreiber& ergebnis) {
     const Sparform& form = *auftrag.Form.form;
     Sparplan plan = PlanAus(auftrag);
     Sparstand stand;
     Sparergebnis gerechnet;
     if (auto ablehnung = SparplanRechnen(form, plan, stand, gerechnet)) return ablehnung;
-    EndlichkeitPruefen(*gerechnet.lauf.loesung);
-    StaffelzeilenSchreiben(*gerechnet.lauf.loesung, ergebnis);
-    ergebnis.Feld("Gesamtzahlungssumme", gerechnet.summen.Gesamtzahlungssumme);
-    ergebnis.Feld("EV", gerechnet.summen.Endvermögen);
-    ergebnis.Feld("Geszins", gerechnet.summen.Gesamtzinsen);
-    ergebnis.Feld("ezins", gerechnet.ezins);
-    LoesungSchreiben(form, gerechnet, ergebnis);
+    SparergebnisSchreiben(form, gerechnet, ergebnis);
     return std::nullopt;
 }
 
