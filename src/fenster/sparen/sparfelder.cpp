@@ -189,11 +189,14 @@ QWidget* Sparfelder::Kalender(const Formzeile& zeile, Datumsfeld& feld) {
     return new Kalendertaste(Kalendername(zeile.feld), feld, this);
 }
 
-/// The points come by themselves. A text that has become shorter was shortened by Backspace.
+/// The points come by themselves, unless a day or month of one digit is typed with its own point. A text that
+/// has become shorter was shortened by Backspace.
 void Sparfelder::BeimTippenHelfen(Datumsfeld& feld) {
     connect(&feld, &QLineEdit::textEdited, this, [&feld, vorher = qsizetype{0}](const QString& text) mutable {
-        const bool gekuerzt = text.size() < vorher;
-        const std::string getippt = DatumTippen(text.toStdString(), gekuerzt ? tasteRueck : 0);
+        const int taste = text.size() < vorher ? tasteRueck : 0;
+        vorher = text.size();
+        if (text.mid(1, 1) == "." || text.mid(4, 1) == ".") return;
+        const std::string getippt = DatumTippen(text.toStdString(), taste);
         if (getippt != text.toStdString()) feld.Setze(getippt);
         vorher = feld.text().size();
     });

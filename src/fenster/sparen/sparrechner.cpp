@@ -4,16 +4,42 @@
 
 #include "fenster/ausgabe/form34.h"
 #include "fenster/ausgabe/fortschrittsfenster.h"
+#include "fenster/rechner/registerberechnung.h"
 #include "fenster/rechner/registernotizen.h"
-#include "fenster/sparen/sparergebnisseite.h"
 #include "fenster/sparen/sparfelder.h"
 #include "fenster/sparen/zinstabellenseite.h"
+#include "fenster/tabellen/kurzfenster.h"
 #include "fenster/ui/meldungsfenster.h"
-#include "kern/sparen/meldungen.h"
+#include "kern/dates/zahlformat.h"
 #include "kern/sparen/sekantensuche.h"
 #include "kern/sparen/spardateien.h"
 
 namespace zinfolio {
+namespace {
+
+/// The figure of what a form solves for; the end capital is a total already.
+std::vector<Kennzahlzeile> Loesungszeile(Sparziel ziel) {
+    switch (ziel) {
+        case Sparziel::sparrate:
+            return {{"Loesung", "Sparrate"}};
+        case Sparziel::rendite:
+            return {{"Nzins", "Nominalzins %"}};
+        case Sparziel::anspardauer:
+            return {{"Loesung", "Erreicht am"}};
+        case Sparziel::anfangskapital:
+            return {{"Loesung", "Anfangskapital"}};
+        case Sparziel::endkapital:
+            break;
+    }
+    return {};
+}
+
+std::string Loesungstext(Sparziel ziel, const Sparergebnis& ergebnis) {
+    if (ziel == Sparziel::rendite) return ergebnis.Nzins;
+    return ziel == Sparziel::anspardauer ? ergebnis.Enddatum : Format(ergebnis.loesung, betragsmuster);
+}
+
+}  // namespace
 
 Sparrechner::Sparrechner(const Sparform& form, const std::filesystem::path& arbeitsordner)
     : Rechner(Art(form), arbeitsordner),
@@ -21,7 +47,7 @@ Sparrechner::Sparrechner(const Sparform& form, const std::filesystem::path& arbe
       ordner_(arbeitsordner),
       dateien_(form, arbeitsordner),
       felder_(new Sparfelder(form, this)),
-      ergebnis_(new Sparergebnisseite(form, this)),
+      auszug_(NeuerAuszug()),
       notizen_(new RegisterNotizen("RT", this)) {
     if (form.zinstabelle) {
         zinstabelle_ = new Zinstabellenseite(this);
@@ -31,7 +57,7 @@ Sparrechner::Sparrechner(const Sparform& form, const std::filesystem::path& arbe
     Einrichten({.register_ = Registerzeilen(),
                 .ablage = new Planablage(*this, Plaene()),
                 .befehle = {{"Auswertungen", "berechnen", "&Berechnen", "Den Sparplan berechnen",
-                             QKeySequence(Qt::Key_F9), [this] { RegisterWaehlen(ergebnis_); },
+                             QKeySequence(Qt::Key_F9), [this] { RegisterWaehlen(auszug_); },
                              Befehlszeile::Ort::leiste}}});
 }
 
@@ -48,12 +74,42 @@ Rechnerart Sparrechner::Art(const Sparform& form) {
                            .zuruecktext = "&zurück"}}};
 }
 
+RegisterBerechnung* Sparrechner::NeuerAuszug() {
+    // The form with the simple change prints as plain text too.
+    const bool einfach = form_.dynamik == Dynamik::einfach;
+    Auszugsart art{.rahmen = "Frame(2)",
+                   .ansicht = "Combo6",
+                   .ansichttitel = "&Kontoanzeige",
+                   .methode = "Combo5",
+                   .rechnen = "Effzins",
+                   .drucken = "Command8",
+                   .druckentext = einfach ? "Dru&cken 1" : "Dru&cken",
+                   .grafik = "Command4",
+                   .effektivtitel = "Label12",
+                   .regel = Sparansichtsregel(form_),
+                   .kennzahlen = Loesungszeile(form_.ziel)};
+    if (einfach) art.tasten.push_back({"Drucken", "Drucken &2", [this] { TextZeigen(); }});
+    return new RegisterBerechnung(std::move(art), this);
+}
+
 std::vector<Registerzeile> Sparrechner::Registerzeilen() {
-    return {
+    std::vector<Registerzeile> zeilen{
         {.seite = felder_, .titel = "Daten", .rollbar = true},
-        {.seite = ergebnis_, .titel = "Berechnen", .betreten = [this] { Berechnen(); }},
+        {.seite = auszug_, .titel = "Berechnen", .betreten = [this] { Berechnen(); }},
         {.seite = notizen_, .titel = "Notizen", .betreten = [this] { notizen_->setFocus(); }},
     };
+    // The tab has no page of its own: it opens another window and leads back to the first tab.
+    if (!form_.kurzrechner.empty())
+        zeilen.push_back({.seite = new QWidget(this),
+                          .titel = "Kurzberechnung (Einfachversion)",
+                          .betreten = [this] { KurzrechnerOeffnen(); }});
+    return zeilen;
+}
+
+void Sparrechner::KurzrechnerOeffnen() {
+    RegisterZeigen(felder_);
+    const auto kurzer = std::ranges::find(AlleKurzrechner(), form_.kurzrechner, &Kurzrechner::name);
+    KurzrechnerZeigen(kurzer->form, *this, ordner_);
 }
 
 Planart Sparrechner::Plaene() {
@@ -80,17 +136,16 @@ Planindex Sparrechner::Index(const Planverzeichnis& plaene) {
 
 void Sparrechner::Verdrahten() {
     connect(felder_, &Sparfelder::geaendert, this, [this] { Geaendert(); });
-    connect(felder_, &Sparfelder::berechnenVerlangt, this, [this] { RegisterWaehlen(ergebnis_); });
-    connect(ergebnis_, &Sparergebnisseite::geaendert, this, [this] { Geaendert(); });
-    connect(ergebnis_, &Sparergebnisseite::effzinsVerlangt, this, &Sparrechner::EffzinsBerechnen);
-    connect(ergebnis_, &Sparergebnisseite::methodeGewaehlt, this, [this] {
+    connect(felder_, &Sparfelder::berechnenVerlangt, this, [this] { RegisterWaehlen(auszug_); });
+    connect(auszug_, &RegisterBerechnung::effektivzinsVerlangt, this, &Sparrechner::EffzinsBerechnen);
+    connect(auszug_, &RegisterBerechnung::methodeGewaehlt, this, [this] {
+        Geaendert();
         // One form waits for its button.
-        if (ergebnis_->ZeigtEffzins() && form_.dynamik != Dynamik::einfach) EffzinsBerechnen();
+        if (effzinsGezeigt_ && form_.dynamik != Dynamik::einfach) EffzinsBerechnen();
     });
-    connect(ergebnis_, &Sparergebnisseite::druckenVerlangt, this,
+    connect(auszug_, &RegisterBerechnung::druckenVerlangt, this,
             [this] { Drucken([this] { return SparberichtBilden(Berichtsdaten()); }); });
-    connect(ergebnis_, &Sparergebnisseite::textVerlangt, this, &Sparrechner::TextZeigen);
-    connect(ergebnis_, &Sparergebnisseite::grafikVerlangt, this, &Sparrechner::GrafikZeigen);
+    connect(auszug_, &RegisterBerechnung::grafikVerlangt, this, &Sparrechner::GrafikZeigen);
     connect(notizen_, &RegisterNotizen::inhaltGeaendert, this, [this] { Geaendert(); });
     if (!zinstabelle_) return;
     connect(felder_, &Sparfelder::zinstabelleVerlangt, this, [this] {
@@ -105,14 +160,14 @@ void Sparrechner::Verdrahten() {
 Sparplan Sparrechner::Lesen() const {
     Sparplan plan;
     felder_->Lesen(plan);
-    ergebnis_->Lesen(plan);
+    plan.Combo5 = static_cast<std::int16_t>(static_cast<int>(auszug_->GewaehlteEffektivmethode()) - 1);
     if (zinstabelle_) zinstabelle_->Lesen(plan);
     return plan;
 }
 
 void Sparrechner::Zeigen(const Sparplan& plan) {
     felder_->Zeigen(plan);
-    ergebnis_->MethodeZeigen(plan);
+    auszug_->EffektivmethodeWaehlen(static_cast<Effektivmethode>(plan.Combo5 + 1));
     if (zinstabelle_) zinstabelle_->Zeigen(plan);
 }
 
@@ -121,7 +176,7 @@ void Sparrechner::PlanLaden(int nummer) {
     const Sparplan plan = dateien_.Laden(k);
     std::string notizen = dateien_.Notizen(k);
     Zeigen(plan);
-    ergebnis_->Leeren();
+    ErgebnisLeeren();
     notizen_->Oeffnen(std::move(notizen));
 }
 
@@ -144,7 +199,7 @@ void Sparrechner::Berechnen() {
 std::optional<Ablehnung> Sparrechner::PlanRechnen() {
     Sparplan plan = Lesen();
     Sparergebnis ergebnis;
-    ergebnis_->Leeren();
+    ErgebnisLeeren();
     Fortschrittsfenster fenster(this, "Die Lösung wird gesucht …", Fortschrittsfenster::Abbruch::moeglich,
                                 "Berechnung");
     const Suchbeobachter beobachter = [zuhoerer = fenster.Zuhoerer()](std::size_t durchlaeufe) {
@@ -162,8 +217,30 @@ std::optional<Ablehnung> Sparrechner::PlanRechnen() {
         throw;
     }
     Zeigen(plan);
-    if (!ablehnung) ergebnis_->Zeigen(plan, std::move(ergebnis), stand_.kapital);
+    if (!ablehnung) ErgebnisZeigen(plan, std::move(ergebnis));
     return ablehnung;
+}
+
+void Sparrechner::ErgebnisZeigen(const Sparplan& plan, Sparergebnis ergebnis) {
+    ergebnis_ = std::move(ergebnis);
+    gerechnet_ = plan;
+    auszug_->KurzformWaehlen();
+    auszug_->Zeigen(*ergebnis_.lauf.loesung);
+    for (const Kennzahlzeile& zeile : Loesungszeile(form_.ziel))
+        auszug_->KennzahlZeigen(zeile.name, Loesungstext(form_.ziel, ergebnis_));
+    if (form_.effektivzinsMitErgebnis || form_.ziel == Sparziel::rendite) EffzinsZeigen(plan);
+}
+
+void Sparrechner::EffzinsZeigen(const Sparplan& plan) {
+    effzinsGezeigt_ = true;
+    gerechnet_.Combo5 = plan.Combo5;
+    auszug_->EffektivzinsZeigen(ergebnis_.ezins, static_cast<Effektivmethode>(plan.Combo5 + 1));
+}
+
+void Sparrechner::ErgebnisLeeren() {
+    effzinsGezeigt_ = false;
+    auszug_->Leeren();
+    auszug_->EffektivzinsVerbergen();
 }
 
 void Sparrechner::InTabelleAblehnen(const Ablehnung& ablehnung) {
@@ -176,17 +253,23 @@ void Sparrechner::InTabelleAblehnen(const Ablehnung& ablehnung) {
 void Sparrechner::EffzinsBerechnen() {
     Ausfuehren([this] {
         const Sparplan plan = Lesen();
-        Sparergebnis ergebnis = ergebnis_->Ergebnis();
-        EffzinsRechnen(plan, ergebnis);
-        SparreiheAblegen(ordner_, ergebnis);
-        ergebnis_->EffzinsZeigen(plan, ergebnis.ezins);
+        EffzinsRechnen(plan, ergebnis_);
+        SparreiheAblegen(ordner_, ergebnis_);
+        EffzinsZeigen(plan);
         return std::nullopt;
     });
 }
 
 Sparberichtsdaten Sparrechner::Berichtsdaten() const {
-    Sparberichtsdaten daten = ergebnis_->Berichtsdaten();
-    daten.mandant = Projektname().toStdString();
+    const Kontoberichtsdaten auszug = auszug_->Berichtsdaten();
+    Sparberichtsdaten daten{.form = &form_,
+                            .mandant = Projektname().toStdString(),
+                            .plan = gerechnet_,
+                            .kapital = ergebnis_.loesung,
+                            .Nzins = ergebnis_.Nzins,
+                            .loesung = auszug.loesung,
+                            .ansicht = auszug.ansicht};
+    if (effzinsGezeigt_) daten.ezins = ergebnis_.ezins;
     return daten;
 }
 
@@ -199,8 +282,8 @@ void Sparrechner::TextZeigen() {
 }
 
 void Sparrechner::GrafikZeigen() {
-    const auto bilden = [this] { return Spardiagramm(form_, *ergebnis_->Ergebnis().lauf.loesung); };
-    if (Zeichnen(bilden)) ergebnis_->KurzformWaehlen();
+    const auto bilden = [this] { return Spardiagramm(form_, auszug_->Loesung()); };
+    if (Zeichnen(bilden)) auszug_->KurzformWaehlen();
 }
 
 }  // namespace zinfolio

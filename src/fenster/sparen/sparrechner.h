@@ -8,8 +8,8 @@
 
 namespace zinfolio {
 
+class RegisterBerechnung;
 class RegisterNotizen;
-class Sparergebnisseite;
 class Sparfelder;
 class Zinstabellenseite;
 
@@ -25,7 +25,9 @@ class Sparrechner : public Rechner {
 
   private:
     [[nodiscard]] static Rechnerart Art(const Sparform& form);
+    [[nodiscard]] RegisterBerechnung* NeuerAuszug();
     [[nodiscard]] std::vector<Registerzeile> Registerzeilen();
+    void KurzrechnerOeffnen();
     [[nodiscard]] Planart Plaene();
     [[nodiscard]] static Planindex Index(const Planverzeichnis& plaene);
     void Verdrahten();
@@ -37,6 +39,9 @@ class Sparrechner : public Rechner {
 
     void Berechnen();
     [[nodiscard]] std::optional<Ablehnung> PlanRechnen();
+    void ErgebnisZeigen(const Sparplan& plan, Sparergebnis ergebnis);
+    void EffzinsZeigen(const Sparplan& plan);
+    void ErgebnisLeeren();
     void InTabelleAblehnen(const Ablehnung& ablehnung);
     void EffzinsBerechnen();
     [[nodiscard]] Sparberichtsdaten Berichtsdaten() const;
@@ -47,8 +52,12 @@ class Sparrechner : public Rechner {
     std::filesystem::path ordner_;
     Plandateien dateien_;
     Sparstand stand_;
+    /// The result that is shown, the plan that it is of, and whether its effective rate was calculated.
+    Sparergebnis ergebnis_;
+    Sparplan gerechnet_;
+    bool effzinsGezeigt_ = false;
     Sparfelder* felder_;
-    Sparergebnisseite* ergebnis_;
+    RegisterBerechnung* auszug_;
     RegisterNotizen* notizen_;
     /// None where the rate of a plan never changes.
     Zinstabellenseite* zinstabelle_ = nullptr;
