@@ -20,7 +20,10 @@ namespace {
 /// Plans of one field each; what is written and read stands in lists.
 class Planrechner : public Rechner {
   public:
-    Planrechner() : Rechner({.name = "Plan", .titel = "Plan", .ende = "Ende", .diagramme = {}}, {}) {
+    explicit Planrechner(int unlesbar = -1, int zuletzt = 1)
+        : Rechner({.name = "Plan", .titel = "Plan", .ende = "Ende", .diagramme = {}}, {}),
+          beschaedigt(unlesbar) {
+        verzeichnis.aktuell = zuletzt;
         Einrichten({.register_ = {{.seite = Feld, .titel = "Daten"}, {new QWidget, "Notizen"}},
                     .ablage = ablage = new Planablage(*this, Art())});
         connect(Feld, &QLineEdit::textEdited, this, [this] { Geaendert(); });
@@ -46,7 +49,7 @@ class Planrechner : public Rechner {
     Planverzeichnis verzeichnis{{"Haus", "Auto", "Neu / unbenannt"}, 1};
     std::vector<std::string> inhalte{"10", "20", ""};
     std::vector<std::vector<std::string>> namen;
-    int beschaedigt = -1;
+    int beschaedigt;
     bool voll = false;
     Eingabefeld* Feld = new Eingabefeld("Feld", Tastenfilter::enter, this);
     Planablage* ablage = nullptr;
@@ -155,6 +158,32 @@ class PlanablageTest : public QObject {
         QCOMPARE(form_->ablage->Aktuell(), 1);
         QTest::keyClick(form_.get(), Qt::Key_S, Qt::ControlModifier);
         QCOMPARE(form_->inhalte, (std::vector<std::string>{"10", "20", ""}));
+    }
+
+    void einUnlesbarerPlanOeffnetDasFensterUndWirdNurAufWunschErsetzt() {
+        const Zeuge zeuge{Antwort::ja, Antwort::nein, Antwort::ja};
+        form_ = std::make_unique<Planrechner>(1);
+        Zeige(*form_);
+        QCOMPARE(zeuge.einzelheiten, QStringList("Satz 3 ist beschädigt."));
+        QCOMPARE(Combo3()->currentText(), "Auto");
+        Fuelle(*form_, "Feld", "30");
+        QTest::keyClick(form_.get(), Qt::Key_S, Qt::ControlModifier);
+        QCOMPARE(form_->inhalte[1], "20");
+        QVERIFY(form_->isWindowModified());
+        QTest::keyClick(form_.get(), Qt::Key_S, Qt::ControlModifier);
+        QCOMPARE(form_->inhalte[1], "30");
+        QCOMPARE(zeuge.texte.size(), 3);
+        QVERIFY(zeuge.texte[1].startsWith("Der gespeicherte Plan konnte nicht gelesen werden."));
+        QTest::keyClick(form_.get(), Qt::Key_S, Qt::ControlModifier);
+        QCOMPARE(zeuge.texte.size(), 3);
+    }
+
+    void eineNummerOhnePlanBeginntBeimErsten() {
+        for (const int nummer : {-1, 3}) {
+            form_ = std::make_unique<Planrechner>(-1, nummer);
+            QCOMPARE(Combo3()->currentText(), "Haus");
+            QCOMPARE(form_->Feld->Wert(), "10");
+        }
     }
 
     void verlassenMitJaSpeichert() {

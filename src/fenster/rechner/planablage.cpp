@@ -10,8 +10,16 @@
 #include "fenster/ui/bausteine.h"
 #include "fenster/ui/datumsfeld.h"
 #include "fenster/ui/geschuetzt.h"
+#include "fenster/ui/meldungsfenster.h"
 
 namespace zinfolio {
+namespace {
+
+constexpr const char* ersetzungsfrage =
+    "Der gespeicherte Plan konnte nicht gelesen werden. Soll er durch die Angaben im Fenster ersetzt werden "
+    "?";
+
+}  // namespace
 
 Planablage::Planablage(QWidget& fenster, Planart art) : Ablage(fenster), art_(std::move(art)) {}
 
@@ -49,13 +57,15 @@ QString Planablage::Name() const {
 
 void Planablage::Beginnen() {
     verzeichnis_ = art_.verzeichnisLesen();
+    const auto plaene = static_cast<int>(verzeichnis_.namen.size());
+    if (verzeichnis_.aktuell < 0 || verzeichnis_.aktuell >= plaene) verzeichnis_.aktuell = 0;
     {
         const QSignalBlocker still(Combo3_);
         for (const std::string& name : verzeichnis_.namen)
             Combo3_->addItem(QString::fromStdString(name));
         Combo3_->setCurrentIndex(verzeichnis_.aktuell);
     }
-    art_.laden(verzeichnis_.aktuell);
+    ungelesen_ = !Geschuetzt(Fenster(), [this] { art_.laden(verzeichnis_.aktuell); });
     emit benannt();
     Fenster()->setWindowModified(false);
 }
@@ -67,6 +77,7 @@ void Planablage::Waehlen(int plan) {
         return;
     }
     verzeichnis_.aktuell = plan;
+    ungelesen_ = false;
     (void)Schreiben(art_.nichtGespeichert, [this] { art_.wahlSchreiben(verzeichnis_); });
     emit benannt();
     emit gewechselt();
@@ -85,7 +96,10 @@ void Planablage::Umbenennen(const QString& name) {
 
 bool Planablage::Speichern() {
     const auto schreiben = [this] { art_.speichern(verzeichnis_.aktuell); };
-    if (!DatumSteht(*Fenster()) || !Schreiben(art_.nichtGespeichert, schreiben)) return false;
+    if (!DatumSteht(*Fenster())) return false;
+    if (ungelesen_ && !Fragen(Fenster(), {.text = ersetzungsfrage, .titel = "Speichern"})) return false;
+    if (!Schreiben(art_.nichtGespeichert, schreiben)) return false;
+    ungelesen_ = false;
     Fenster()->setWindowModified(false);
     return true;
 }

@@ -57,6 +57,8 @@ class Planablage : public Ablage {
     Planart art_;
     Planverzeichnis verzeichnis_;
     QComboBox* Combo3_ = nullptr;
+    /// The plan in hand could not be read as the form opened: its fields are not those of its file.
+    bool ungelesen_ = false;
 };
 
 }  // namespace zinfolio
