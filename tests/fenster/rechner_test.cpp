@@ -234,15 +234,16 @@ class RechnerTest : public QObject {
         QVERIFY(Form().isWindowModified());
     }
 
-    void einProjektDasSichNichtLesenLaesstHatKeinenNamen() {
-        const auto datei = SpeichernAls("Sparbuch.PRB");
-        std::filesystem::remove(datei);
-        const Dateiwahl wahl(datei);
+    void einProjektDasSichNichtLesenLaesstAendertNichts() {
+        Eingeben();
+        SpeichernAls("Sparbuch.PRB");
+        const Dateiwahl wahl(stand_->ablage.Pfad() / "Anderes.PRB");
         const Zeuge zeuge;
         stand_->Taste(Qt::Key_O);
         QCOMPARE(zeuge.texte.size(), 1);
-        QVERIFY(zeuge.einzelheiten[0].contains("Sparbuch.PRB"));
-        QCOMPARE(Form().windowTitle(), "Probe[*]");
+        QVERIFY(zeuge.einzelheiten[0].contains("Anderes.PRB"));
+        QCOMPARE(Form().windowTitle(), "Probe – Sparbuch.PRB[*]");
+        QCOMPARE(Finde<QLineEdit>(&Form(), "Betrag")->text(), "1000");
     }
 
     void dieFenstergroesseBleibt() {
