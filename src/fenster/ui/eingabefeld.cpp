@@ -1,7 +1,19 @@
 #include "fenster/ui/eingabefeld.h"
 
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QDropEvent>
 #include <QKeyEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QToolTip>
+#include <array>
+#include <memory>
 #include <optional>
+
+#include "fenster/ui/meldungsfenster.h"
+#include "kern/dates/einfuegetext.h"
 
 namespace zinfolio {
 namespace {
@@ -28,6 +40,16 @@ QKeyEvent MitZeichen(const QKeyEvent& ereignis, int taste) {
     return {ereignis.type(), ereignis.key(), ereignis.modifiers(), QString(QChar(taste))};
 }
 
+/// What a field takes, by its filter.
+constexpr std::array<std::string_view, 5> hinweise{
+    "Hier steht ein Datum: tt.mm.jjjj",
+    "Hier steht eine Zahl: Ziffern, ein Komma, vorn ein Minus",
+    "Hier steht eine ganze Zahl: nur Ziffern",
+    "Hier steht eine Zahl: Ziffern und ein Komma",
+    "",
+};
+constexpr int hinweisdauer = 2500;
+
 }  // namespace
 
 Eingabefeld::Eingabefeld(const QString& name, Tastenfilter filter, QWidget* eltern)
@@ -42,6 +64,10 @@ Eingabefeld::Eingabefeld(const QString& name, Tastenfilter filter, QWidget* elte
 }
 
 void Eingabefeld::keyPressEvent(QKeyEvent* ereignis) {
+    if (ereignis->matches(QKeySequence::Paste)) {
+        ereignis->accept();
+        return Einfuegen(QApplication::clipboard()->text());
+    }
     const auto code = Zeichencode(*ereignis);
     if (!code) {
         QLineEdit::keyPressEvent(ereignis);
@@ -61,8 +87,52 @@ void Eingabefeld::Anwenden(const Tastenantwort& antwort, QKeyEvent* ereignis) {
         QKeyEvent gefiltert = MitZeichen(*ereignis, antwort.taste);
         QLineEdit::keyPressEvent(&gefiltert);
     }
+    const bool verschluckt = antwort.taste == 0 && !antwort.naechstesFeld &&
+                             ereignis->key() != Qt::Key_Return && ereignis->key() != Qt::Key_Enter;
+    if (verschluckt) HinweisZeigen();
     if (antwort.caretAnsEnde) end(false);
     if (antwort.naechstesFeld) Weiter();
+}
+
+void Eingabefeld::HinweisZeigen() {
+    const QString hinweis = Anzeigetext(hinweise.at(static_cast<std::size_t>(filter_)));
+    QToolTip::showText(mapToGlobal(QPoint(0, height())), hinweis, this, {}, hinweisdauer);
+}
+
+void Eingabefeld::Einfuegen(const QString& eingefuegt) {
+    const auto anfang = hasSelectedText() ? selectionStart() : cursorPosition();
+    const auto ende = hasSelectedText() ? selectionEnd() : cursorPosition();
+    const auto neu = Einfuegetext(filter_, text().left(anfang).toStdString(), eingefuegt.toStdString(),
+                                  text().mid(ende).toStdString());
+    if (!neu || (maxLength() < static_cast<int>(neu->size()) && filter_ != Tastenfilter::enter))
+        return HinweisZeigen();
+    insert(QString::fromStdString(*neu));
+}
+
+void Eingabefeld::contextMenuEvent(QContextMenuEvent* ereignis) {
+    const std::unique_ptr<QMenu> menue(createStandardContextMenu());
+    if (auto* einfuegen = menue->findChild<QAction*>("edit-paste")) {
+        einfuegen->disconnect(SIGNAL(triggered(bool)));
+        connect(einfuegen, &QAction::triggered, this,
+                [this] { Einfuegen(QApplication::clipboard()->text()); });
+    }
+    menue->exec(ereignis->globalPos());
+}
+
+void Eingabefeld::mouseReleaseEvent(QMouseEvent* ereignis) {
+    const QClipboard& ablage = *QApplication::clipboard();
+    if (ereignis->button() == Qt::MiddleButton && ablage.supportsSelection())
+        Einfuegen(ablage.text(QClipboard::Selection));
+    else
+        QLineEdit::mouseReleaseEvent(ereignis);
+}
+
+void Eingabefeld::dropEvent(QDropEvent* ereignis) {
+    deselect();
+    setCursorPosition(cursorPositionAt(ereignis->position().toPoint()));
+    Einfuegen(ereignis->mimeData()->text());
+    ereignis->setDropAction(Qt::CopyAction);
+    ereignis->accept();
 }
 
 void Eingabefeld::Weiter() {

@@ -7,8 +7,9 @@
 namespace zinfolio {
 
 /// An entry field with its key filter. Gaining the focus selects the whole text, so that the first key
-/// replaces it; Enter moves on to the next field. Clipboard and cursor keys are no keys for the filter; the
-/// decimal key of the numeric keypad counts as the comma.
+/// replaces it; Enter moves on to the next field. Cursor keys are no keys for the filter; the decimal key of
+/// the numeric keypad counts as the comma. What is pasted or dropped into a number is read as one, however it
+/// is written ("1,234.56 €"), or refused as a whole. A key or text that is refused is told beside the field.
 class Eingabefeld : public QLineEdit {
     Q_OBJECT
 
@@ -27,11 +28,17 @@ class Eingabefeld : public QLineEdit {
     void keyPressEvent(QKeyEvent* ereignis) override;
     void focusInEvent(QFocusEvent* ereignis) override;
     void mousePressEvent(QMouseEvent* ereignis) override;
+    void mouseReleaseEvent(QMouseEvent* ereignis) override;
+    void contextMenuEvent(QContextMenuEvent* ereignis) override;
+    void dropEvent(QDropEvent* ereignis) override;
 
     /// Moves the focus on, as Enter does.
     virtual void Weiter();
 
   private:
+    /// Puts a text in the place of what is selected, as far as the field may hold it.
+    void Einfuegen(const QString& text);
+    void HinweisZeigen();
     void Anwenden(const Tastenantwort& antwort, QKeyEvent* ereignis);
 
     Tastenfilter filter_;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "kern/dates/feldtext.h"
 #include "kern/dates/textteile.h"
 #include "kern/dates/zahl.h"
 #include "kern/grund/windows1252.h"
@@ -74,12 +75,12 @@ Konditionseingabe KonditionZurEingabe(const Staffelsatz& satz) {
     const Konditionen& k = satz.kondition;
     return {
         .Gültigdatum = NachUtf8(satz.Satzdatum.Getrimmt()),
-        .Gutzins1 = Zahltext(k.Gutzins1),
-        .Gutzins2 = Zahltext(k.Gutzins2),
-        .Guthabenlinie = Zahltext(k.Guthabenlinie),
-        .Kreditzins1 = Zahltext(k.Kreditzins1),
-        .Kreditzins2 = Zahltext(k.Kreditzins2),
-        .Kreditlinie = Zahltext(k.Kreditlinie),
+        .Gutzins1 = Feldtext(Zahltext(k.Gutzins1)),
+        .Gutzins2 = Feldtext(Zahltext(k.Gutzins2)),
+        .Guthabenlinie = Feldtext(Zahltext(k.Guthabenlinie)),
+        .Kreditzins1 = Feldtext(Zahltext(k.Kreditzins1)),
+        .Kreditzins2 = Feldtext(Zahltext(k.Kreditzins2)),
+        .Kreditlinie = Feldtext(Zahltext(k.Kreditlinie)),
         .Zweitzinsart = k.Zweitzinsart == 0 ? std::int16_t{1} : k.Zweitzinsart,
     };
 }

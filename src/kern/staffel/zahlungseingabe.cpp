@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "kern/dateien/satzdatei.h"
+#include "kern/dates/feldtext.h"
 #include "kern/dates/rundung.h"
 #include "kern/dates/textteile.h"
 #include "kern/dates/zahl.h"
@@ -99,7 +100,7 @@ bool IstOhneDatum(const std::string& text) {
 std::optional<Ablehnung> ZahlungseingabePruefen(Zahlungseingabe& eingabe, Nullbetrag nullbetrag) {
     FuelleLeer(eingabe.Begdatum, "0");
     FuelleLeer(eingabe.Betrag, "0");
-    eingabe.Betrag = Zahltext(Zahl(eingabe.Betrag));
+    eingabe.Betrag = Feldtext(Zahltext(Zahl(eingabe.Betrag)));
     FuelleLeer(eingabe.Ratzahl, "1");
     FuelleLeer(eingabe.Delta, "0");
     if (eingabe.Check1 && eingabe.Stufen.empty()) {

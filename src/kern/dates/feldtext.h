@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace zinfolio {
+
+/// A plain text of a number (`Zahltext`) as an entry field shows it: without an exponent, so that the filters
+/// take it and `Zahl` reads it. "5E-05" becomes "0,00005", any other text stays as it is.
+[[nodiscard]] std::string Feldtext(std::string_view zahltext);
+
+}  // namespace zinfolio
