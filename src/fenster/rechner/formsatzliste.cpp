@@ -15,21 +15,50 @@ FormSatzliste::FormSatzliste(const Satzlistenart& art, const Satzdatei<Staffelsa
       art_(art),
       datei_(datei),
       tabelle_(new Tabelle(art.name, eltern)),
-      rueckgaengig_(new QAction("Löschen &rückgängig", this)) {
+      rueckgaengig_(nullptr) {
+    NeuerBefehl("Bea&rbeiten", {Qt::Key_Return, Qt::Key_Enter}, [this] { bearbeiten(); });
+    NeuerBefehl("&Löschen", {QKeySequence::Delete}, [this] { MarkierteLoeschen(); });
+    rueckgaengig_ =
+        NeuerBefehl("Löschen &rückgängig", {QKeySequence::Undo}, [this] { LoeschenRueckgaengig(); });
     rueckgaengig_->setObjectName("LöschenRückgängig");
     rueckgaengig_->setEnabled(false);
-    tabelle_->addAction(rueckgaengig_);
-    connect(rueckgaengig_, &QAction::triggered, this,
-            [this] { Geschuetzt(tabelle_, [this] { LoeschenRueckgaengig(); }); });
+    connect(tabelle_, &QTableView::doubleClicked, this,
+            [this] { Geschuetzt(tabelle_, [this] { bearbeiten(); }); });
 }
 
-void FormSatzliste::NeuLesen() {
+QAction* FormSatzliste::NeuerBefehl(const QString& beschriftung, std::initializer_list<QKeySequence> tasten,
+                                    const std::function<void()>& wirkung) {
+    auto* befehl = new QAction(beschriftung, this);
+    befehl->setShortcuts(tasten);
+    befehl->setShortcutContext(Qt::WidgetShortcut);
+    tabelle_->addAction(befehl);
+    connect(befehl, &QAction::triggered, this, [this, wirkung] { Geschuetzt(tabelle_, wirkung); });
+    return befehl;
+}
+
+void FormSatzliste::Lesen() {
     const auto vorher = geaendert_ ? std::optional(saetze_.at(*geaendert_)) : std::nullopt;
     saetze_ = datei_.Lesen();
     if (vorher) geaendert_ = Stelle(*vorher);
     Zeigen();
+}
+
+void FormSatzliste::NeuLesen() {
+    Lesen();
     tabelle_->Markiere(static_cast<int>(saetze_.size()) - 1);
     nachLesen();
+}
+
+void FormSatzliste::Auffrischen() {
+    std::vector<Staffelsatz> markierte;
+    for (const std::size_t zeile : tabelle_->MarkierteZeilen())
+        markierte.push_back(saetze_.at(zeile));
+    Lesen();
+    std::vector<std::size_t> zeilen;
+    for (const Staffelsatz& satz : markierte)
+        if (const auto stelle = Stelle(satz)) zeilen.push_back(*stelle);
+    std::ranges::sort(zeilen);
+    tabelle_->Markiere(geaendert_ ? std::vector{*geaendert_} : zeilen);
 }
 
 std::optional<std::size_t> FormSatzliste::Stelle(const Staffelsatz& satz) const {
@@ -45,9 +74,10 @@ void FormSatzliste::KontoWechseln() {
     NeuLesen();
 }
 
-void FormSatzliste::Ersetzen(const std::vector<Staffelsatz>& saetze) {
+void FormSatzliste::Ersetzen(const std::vector<Staffelsatz>& saetze, std::optional<std::size_t> marke) {
     datei_.Schreiben(saetze);
     NeuLesen();
+    if (marke && !saetze_.empty()) tabelle_->Markiere(static_cast<int>(std::min(*marke, saetze_.size() - 1)));
     nachAendern();
 }
 
@@ -89,12 +119,13 @@ void FormSatzliste::MarkierteLoeschen() {
 void FormSatzliste::Loeschen(const std::vector<std::size_t>& zeilen) {
     std::vector<Staffelsatz> saetze = saetze_;
     Loeschung loeschung = SaetzeLoeschen(saetze, zeilen);
-    Ersetzen(saetze);
+    Ersetzen(saetze, zeilen.empty() ? std::nullopt : std::optional(zeilen.front()));
     if (!loeschung.saetze.empty()) geloescht_.push_back(std::move(loeschung));
     rueckgaengig_->setEnabled(!geloescht_.empty());
 }
 
 void FormSatzliste::LoeschenRueckgaengig() {
+    if (geloescht_.empty()) return;
     std::vector<Staffelsatz> saetze = saetze_;
     LoeschungZuruecknehmen(saetze, geloescht_.back());
     ordnen(saetze);

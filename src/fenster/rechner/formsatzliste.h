@@ -21,7 +21,8 @@ struct Satzlistenart {
 };
 
 /// The list of the rows of one working file: the number of a list row is the number of its record. Deletes
-/// marked rows after a question, and brings them back from the list's context menu as long as it lives.
+/// marked rows after a question, and brings them back as long as the account is open. Enter and a double
+/// click edit the marked row, Delete deletes, Ctrl+Z brings back; the context menu has all of it.
 class FormSatzliste : public QObject {
     Q_OBJECT
 
@@ -34,12 +35,14 @@ class FormSatzliste : public QObject {
     /// Reads the file and shows it, with its last row selected. A row under change follows its record.
     void NeuLesen();
 
+    /// The same where the user did nothing to the list: selected rows follow their records, too.
+    void Auffrischen();
+
     /// Another account stands in the file: reads it, and nothing deleted before comes back.
     void KontoWechseln();
 
-    /// Makes these rows the file's content and shows them; shows what the file holds also where writing
-    /// fails, and passes the fault on.
-    void Ersetzen(const std::vector<Staffelsatz>& saetze);
+    /// Makes these rows the file's content and shows them, with `marke` selected, else the last row.
+    void Ersetzen(const std::vector<Staffelsatz>& saetze, std::optional<std::size_t> marke = std::nullopt);
 
     /// Puts the marked row under change; a message, and false, where there is none.
     bool AenderungBeginnen();
@@ -51,7 +54,10 @@ class FormSatzliste : public QObject {
     /// Deletes the marked rows, or all, after the question that belongs to it.
     void MarkierteLoeschen();
 
-    /// Called each time the list has been built from the file.
+    /// Called when the user wants to edit the marked row.
+    std::function<void()> bearbeiten = [] {};
+
+    /// Called each time the list has been built from the file, but by `Auffrischen`.
     std::function<void()> nachLesen = [] {};
 
     /// Called when the user has made other rows the file's content.
@@ -62,6 +68,9 @@ class FormSatzliste : public QObject {
 
   private:
     [[nodiscard]] std::optional<std::size_t> Stelle(const Staffelsatz& satz) const;
+    QAction* NeuerBefehl(const QString& beschriftung, std::initializer_list<QKeySequence> tasten,
+                         const std::function<void()>& wirkung);
+    void Lesen();
     void Zeigen();
     void Loeschen(const std::vector<std::size_t>& zeilen);
     void LoeschenRueckgaengig();

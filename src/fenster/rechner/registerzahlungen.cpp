@@ -12,6 +12,7 @@
 #include "fenster/ui/feldraster.h"
 #include "fenster/ui/geschuetzt.h"
 #include "fenster/ui/meldungsfenster.h"
+#include "kern/dates/feldtext.h"
 #include "kern/dates/zahl.h"
 #include "kern/dates/zahlformat.h"
 #include "kern/grund/windows1252.h"
@@ -200,6 +201,7 @@ void RegisterZahlungen::Verdrahten() {
         felder_.Feld("Ratzahl")->setText("1");
         felder_.Feld("Abstand")->setText("1");
     };
+    liste_.bearbeiten = [this] { AenderungBeginnen(); };
     liste_.nachAendern = [this] { emit geaendert(); };
     connect(felder_.Feld("Begdatum"), &QLineEdit::textChanged, this, &RegisterZahlungen::MonatsendeAnbieten);
     connect(&felder_.Tafel(), &Feldtafel::gewechselt, this, &RegisterZahlungen::DatumrechZeigen);
@@ -213,6 +215,10 @@ void RegisterZahlungen::Zeigen(const Zahlungseingabe& eingabe) {
 
 void RegisterZahlungen::NeuSchreiben() {
     liste_.NeuLesen();
+}
+
+void RegisterZahlungen::Auffrischen() {
+    liste_.Auffrischen();
 }
 
 void RegisterZahlungen::KontoWechseln() {
@@ -299,7 +305,7 @@ void RegisterZahlungen::AenderungBeginnen() {
     const Staffelsatz& satz = liste_.Saetze()[zeile];
     Zahlungseingabe eingabe = Grundeingabe();
     eingabe.Begdatum = NachUtf8(satz.Satzdatum.Getrimmt());
-    eingabe.Betrag = Zahltext(satz.Zahlbetrag);
+    eingabe.Betrag = Feldtext(Zahltext(satz.Zahlbetrag));
     eingabe.Beschreibung = NachUtf8(satz.Zahlungstext.Getrimmt());
     Zeigen(eingabe);
     Label10_->setText(QString("Zahlung %1 wird geändert.").arg(zeile + 1));
@@ -317,8 +323,7 @@ void RegisterZahlungen::AenderungUebernehmen() {
         SetzeDatum(satz, eingabe.Begdatum);
         satz.Zahlbetrag = neu.Zahlbetrag;
         satz.Zahlungstext = neu.Zahlungstext;
-        liste_.Ersetzen(saetze);
-        liste_.Ansicht()->Markiere(static_cast<int>(zeile));
+        liste_.Ersetzen(saetze, zeile);
         AenderungBeenden();
     });
 }

@@ -37,6 +37,9 @@ class RegisterZahlungen : public QWidget {
     /// `NeuSchreiben`: shows what the file holds and sets the series fields to their start values.
     void NeuSchreiben();
 
+    /// Shows what the file holds; what the user has typed, marked and begun stays.
+    void Auffrischen();
+
     /// Empties all fields.
     void Leeren();
 

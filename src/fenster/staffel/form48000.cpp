@@ -105,12 +105,15 @@ void Form48000::Laden(const std::filesystem::path& datei, Leseanlass anlass) {
     auto projekt = KontoprojektLesen(datei);
     KontoprojektUebernehmen(dateien_.Ordner(), projekt);
     if (anlass == Leseanlass::oeffnen) RegisterEntfernen(effektivzins_);
-    KontoWechseln();
     zinsverrechnung_->Zeigen(KontoeinstellungenLesen(dateien_.Ordner()));
-    if (anlass == Leseanlass::oeffnen)
+    if (anlass == Leseanlass::oeffnen) {
+        KontoWechseln();
         notizen_->Oeffnen(std::move(projekt.notizen));
-    else
+    } else {
+        zahlungen_->Auffrischen();
+        zinssaetze_->NeuSchreiben2();
         notizen_->Wiederladen(std::move(projekt.notizen));
+    }
 }
 
 void Form48000::Sortieren() {
@@ -134,7 +137,7 @@ void Form48000::KontoRechnen() {
         Konto konto;
         berechnung_->Leeren();
         auto ablehnung = dateien_.Rechnen(zinsverrechnung_->Lesen(), konto);
-        zahlungen_->NeuSchreiben();
+        zahlungen_->Auffrischen();
         zinssaetze_->NeuSchreiben2();
         if (!ablehnung) berechnung_->Zeigen(std::move(konto.loesung));
         if (!RegisterVorhanden(effektivzins_)) berechnung_->EffektivzinsVerbergen();

@@ -98,6 +98,7 @@ RegisterZinssaetze::RegisterZinssaetze(const Satzdatei<Staffelsatz>& datei, QWid
                            "Änderungen", "verwerfen2", "List2", "Bearbeiten2", "Löschen2"});
     liste_.ordnen = SortiereKonditionen;
     liste_.nachLesen = [this] { angenommen_ = true; };
+    liste_.bearbeiten = [this] { AenderungBeginnen(); };
     liste_.nachAendern = [this] { emit geaendert(); };
     for (const char* name : {"Gutzins1", "Gutzins2", "Kreditzins1", "Kreditzins2"}) {
         Eingabefeld* feld = felder_.Feld(name);
@@ -134,7 +135,8 @@ QWidget* RegisterZinssaetze::Listenseite() {
 }
 
 void RegisterZinssaetze::NeuSchreiben2() {
-    liste_.NeuLesen();
+    liste_.Auffrischen();
+    angenommen_ = true;
 }
 
 void RegisterZinssaetze::KontoWechseln() {
@@ -147,7 +149,8 @@ void RegisterZinssaetze::Leeren() {
 }
 
 void RegisterZinssaetze::Betreten() {
-    felder_.Tafel().Setze("Option1", {.text = {}, .zahl = 1});
+    // A condition under change keeps its own.
+    if (!liste_.Geaendert()) felder_.Tafel().Setze("Option1", {.text = {}, .zahl = 1});
     felder_.Fokussieren("Gültigdatum");
 }
 

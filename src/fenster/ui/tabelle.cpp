@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <algorithm>
 #include <numeric>
 
@@ -53,6 +54,16 @@ void Tabelle::Markiere(int zeile) {
     if (zeile < 0 || zeile >= modell_->rowCount()) return;
     selectRow(zeile);
     scrollTo(modell_->index(zeile, 0));
+}
+
+void Tabelle::Markiere(const std::vector<std::size_t>& zeilen) {
+    QItemSelection auswahl;
+    for (const std::size_t zeile : zeilen) {
+        const QModelIndex index = modell_->index(static_cast<int>(zeile), 0);
+        auswahl.select(index, index);
+    }
+    Markiere(zeilen.empty() ? -1 : static_cast<int>(zeilen.front()));
+    selectionModel()->select(auswahl, QItemSelectionModel::Select | QItemSelectionModel::Rows);
 }
 
 QString Tabelle::AuswahlAlsText() const {
@@ -107,6 +118,19 @@ void Tabelle::SpaltenVerteilen() {
 void Tabelle::resizeEvent(QResizeEvent* ereignis) {
     QTableView::resizeEvent(ereignis);
     SpaltenVerteilen();
+}
+
+QModelIndex Tabelle::moveCursor(CursorAction schritt, Qt::KeyboardModifiers zusatz) {
+    const bool ende = schritt == MoveEnd;
+    if (!ende && schritt != MoveHome) return QTableView::moveCursor(schritt, zusatz);
+    const int spalte = std::max(0, currentIndex().column());
+    return modell_->index(ende ? modell_->rowCount() - 1 : 0, spalte);
+}
+
+void Tabelle::keyPressEvent(QKeyEvent* ereignis) {
+    QTableView::keyPressEvent(ereignis);
+    // At the first or last row already, the key would scroll the page around the list.
+    if (ereignis->key() == Qt::Key_Home || ereignis->key() == Qt::Key_End) ereignis->accept();
 }
 
 }  // namespace zinfolio

@@ -24,6 +24,9 @@ class Tabelle : public QTableView {
     /// Selects one row and scrolls to it; a row that does not exist selects nothing.
     void Markiere(int zeile);
 
+    /// Selects these rows, and scrolls to the first of them.
+    void Markiere(const std::vector<std::size_t>& zeilen);
+
     /// The selected rows as text: cells separated by tabs, rows by line ends.
     [[nodiscard]] QString AuswahlAlsText() const;
 
@@ -32,6 +35,9 @@ class Tabelle : public QTableView {
 
   protected:
     void resizeEvent(QResizeEvent* ereignis) override;
+    void keyPressEvent(QKeyEvent* ereignis) override;
+    /// Home and End go to the first and the last row.
+    QModelIndex moveCursor(CursorAction schritt, Qt::KeyboardModifiers zusatz) override;
 
   private:
     void SpaltenMessen();
