@@ -166,6 +166,58 @@ class ProjektfaelleTest : public QObject {
         QVERIFY(form_->isVisible());
     }
 
+    void wasDieRechnungUebergingeWirdNachDemOeffnenGesagt() {
+        KontoAnlegen();
+        // Seven bytes of a third payment: a copy that was cut.
+        std::ofstream(Datei("Zinsstaffel1Konto"), std::ios::binary | std::ios::app) << "1234567";
+        const Zeuge zeuge;
+        Oeffnen(Datei("Konto.ZiS"));
+        QCOMPARE(zeuge.texte.size(), 1);
+        QVERIFY2(zeuge.texte[0].startsWith("Nicht alles in den Dateien kann berücksichtigt werden:\n\n"),
+                 qPrintable(zeuge.texte[0]));
+        QVERIFY2(zeuge.texte[0].contains("Zinsstaffel1Konto\", Satz 3:"), qPrintable(zeuge.texte[0]));
+        EingegebenesSteht();
+        QVERIFY(!form_->isWindowModified());
+    }
+
+    void vielesUebergangeneStehtHinterDerTaste() {
+        KontoAnlegen();
+        std::string saetze = Inhalt(Datei("Zinsstaffel1Konto"));
+        const std::string satz = saetze.substr(0, 129);
+        const auto datum = satz.find("31.12.2006");
+        for (int i = 0; i < 8; ++i)
+            saetze += std::string(satz).replace(datum, 10, "99.99.9999");
+        std::ofstream(Datei("Zinsstaffel1Konto"), std::ios::binary) << saetze;
+        const Zeuge zeuge;
+        Oeffnen(Datei("Konto.ZiS"));
+        QCOMPARE(zeuge.texte.size(), 1);
+        QVERIFY2(zeuge.texte[0].endsWith("\n… und 2 weitere"), qPrintable(zeuge.texte[0]));
+        QCOMPARE(zeuge.einzelheiten[0].count('\n'), 7);
+    }
+
+    void speichernUeberDateienEinesAnderenProjektsFragt() {
+        KontoAnlegen();
+        const std::vector<std::string> vorher = Projektinhalt();
+        Zahlung(*form_, "01.07.2007", "1");
+        {
+            const Zeuge zeuge{Antwort::nein};
+            SpeichernAls(Datei("Konto.zis"));
+            QCOMPARE(zeuge.texte.size(), 1);
+            QVERIFY2(zeuge.texte[0].contains("\"Konto.ZiS\""), qPrintable(zeuge.texte[0]));
+            QCOMPARE(zeuge.tasten, std::vector{Meldungstasten::jaNein});
+        }
+        QCOMPARE(Projektinhalt(), vorher);
+        QVERIFY(!fs::exists(Datei("Konto.zis")));
+        QVERIFY(form_->isWindowModified());
+        const Zeuge zeuge{Antwort::ja};
+        SpeichernAls(Datei("Konto.zis"));
+        QVERIFY(fs::exists(Datei("Konto.zis")));
+        QCOMPARE(Text("Projekt"), "Konto.zis");
+        // Its own name is no other project's: from here on nothing asks.
+        Taste(Qt::Key_S);
+        QCOMPARE(zeuge.texte.size(), 1);
+    }
+
     void abgebrochenesOeffnenLaesstDasKonto() {
         KontoAnlegen();
         const Zeuge zeuge;

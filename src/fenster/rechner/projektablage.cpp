@@ -6,8 +6,14 @@
 
 #include "fenster/ui/datumsfeld.h"
 #include "fenster/ui/geschuetzt.h"
+#include "fenster/ui/meldungsfenster.h"
 
 namespace zinfolio {
+namespace {
+
+constexpr const char* befundvorspann = "Nicht alles in den Dateien kann berücksichtigt werden:\n\n";
+
+}  // namespace
 
 Projektablage::Projektablage(QWidget& fenster, Projektart art) : Ablage(fenster), art_(std::move(art)) {}
 
@@ -56,17 +62,36 @@ void Projektablage::NeuBeginnen() {
 void Projektablage::Oeffnen() {
     if (!DatumSteht(*Fenster()) || !AufgebenGewollt()) return;
     if (const auto datei = DateiFragen(Fenster(), Frage(Dateifrage::Zweck::oeffnen)))
-        Laden(*datei, Leseanlass::oeffnen);
+        if (Laden(*datei, Leseanlass::oeffnen)) BefundeMelden();
 }
 
-void Projektablage::Laden(const std::filesystem::path& datei, Leseanlass anlass) {
+bool Projektablage::Laden(const std::filesystem::path& datei, Leseanlass anlass) {
     // A project that cannot be read wholly changes nothing.
-    GeschuetztMitWartezeiger(Fenster(), [&] {
+    return GeschuetztMitWartezeiger(Fenster(), [&] {
         art_.laden(datei, anlass);
         Benennen(datei);
         emit gewechselt();
         Fenster()->setWindowModified(false);
     });
+}
+
+void Projektablage::BefundeMelden() {
+    constexpr qsizetype hoechstens = 6;
+    QStringList zeilen;
+    if (art_.befunde)
+        for (const Befund& befund : art_.befunde())
+            zeilen << QString::fromStdString(Befundtext(befund));
+    if (zeilen.isEmpty()) return;
+    QString text = befundvorspann + zeilen.mid(0, hoechstens).join('\n');
+    if (zeilen.size() <= hoechstens) return MeldungZeigen(Fenster(), {.text = text});
+    text += QString("\n… und %1 weitere").arg(zeilen.size() - hoechstens);
+    MeldungZeigen(Fenster(), {.text = text, .einzelheiten = zeilen.join('\n')});
+}
+
+bool Projektablage::ErsetzenGewollt(const std::filesystem::path& datei) {
+    std::optional<std::string> frage;
+    if (art_.aufbau && datei_ != datei) frage = Ersetzungsfrage(datei, *art_.aufbau);
+    return !frage || Fragen(Fenster(), {.text = QString::fromStdString(*frage), .titel = "Speichern"});
 }
 
 bool Projektablage::Speichern() {
@@ -77,7 +102,7 @@ bool Projektablage::Speichern() {
 bool Projektablage::SpeichernUnter() {
     if (!DatumSteht(*Fenster()) || !Festhalten()) return false;
     const auto datei = DateiFragen(Fenster(), Frage(Dateifrage::Zweck::speichern));
-    return datei && ProjektSchreiben(*datei);
+    return datei && ErsetzenGewollt(*datei) && ProjektSchreiben(*datei);
 }
 
 bool Projektablage::Festhalten() {

@@ -6,6 +6,8 @@
 
 #include "fenster/rechner/ablage.h"
 #include "fenster/ui/dateidialog.h"
+#include "kern/dateien/dateibefund.h"
+#include "kern/dateien/dateigruppe.h"
 
 namespace zinfolio {
 
@@ -34,6 +36,11 @@ struct Projektart {
     std::function<void()> festhalten = {};
     /// Puts the working files in order before the save of leaving; optional.
     std::function<void()> ordnen = {};
+    /// The names of the files that belong together; with it, a save under a new name asks before it takes
+    /// files of another project; optional.
+    const Gruppenaufbau* aufbau = nullptr;
+    /// What the project that was read last holds and a calculation passes over; optional.
+    std::function<std::vector<Befund>()> befunde = {};
 };
 
 /// A project in files that the user names: new, open, save, save as.
@@ -58,7 +65,9 @@ class Projektablage : public Ablage {
     void NeuBeginnen();
     void Oeffnen();
     bool SpeichernUnter();
-    void Laden(const std::filesystem::path& datei, Leseanlass anlass);
+    bool Laden(const std::filesystem::path& datei, Leseanlass anlass);
+    void BefundeMelden();
+    [[nodiscard]] bool ErsetzenGewollt(const std::filesystem::path& datei);
     [[nodiscard]] bool Festhalten();
     bool ProjektSchreiben(const std::filesystem::path& datei);
     void Benennen(std::optional<std::filesystem::path> datei);

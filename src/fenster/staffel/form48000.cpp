@@ -74,6 +74,8 @@ Projektart Form48000::Kontoprojekt() {
             },
         .festhalten = [this] { KontoeinstellungenSchreiben(dateien_.Ordner(), zinsverrechnung_->Lesen()); },
         .ordnen = [this] { Sortieren(); },
+        .aufbau = &Kontoprojektaufbau(),
+        .befunde = [this] { return befunde_; },
     };
 }
 
@@ -104,6 +106,7 @@ void Form48000::Neu() {
 void Form48000::Laden(const std::filesystem::path& datei, Leseanlass anlass) {
     auto projekt = KontoprojektLesen(datei);
     KontoprojektUebernehmen(dateien_.Ordner(), projekt);
+    befunde_ = std::move(projekt.befunde);
     if (anlass == Leseanlass::oeffnen) RegisterEntfernen(effektivzins_);
     zinsverrechnung_->Zeigen(KontoeinstellungenLesen(dateien_.Ordner()));
     if (anlass == Leseanlass::oeffnen) {

@@ -44,6 +44,8 @@ class Form48000 : public Rechner {
     void GrafikZeigen();
 
     Kontodateien dateien_;
+    /// What of the project that was read last a calculation passes over.
+    std::vector<Befund> befunde_;
     RegisterZahlungen* zahlungen_;
     RegisterZinssaetze* zinssaetze_;
     RegisterZinsverrechnung* zinsverrechnung_;
