@@ -7,8 +7,10 @@
 #include <cstdint>
 
 #include "kern/dateien/satzdatei.h"
+#include "kern/dates/textteile.h"
 #include "kern/dates/zahlformat.h"
 #include "kern/finmath/herleitung.h"
+#include "kern/finmath/reiheauswerten.h"
 #include "kern/grund/rechenfehler.h"
 #include "kern/grund/windows1252.h"
 #include "stapel/json/zeilenpuffer.h"
@@ -177,6 +179,20 @@ void HerleitungSchreiben(std::string_view name, std::span<const Ergebnissatz> ze
         zeile.Leeren();
     }
     ergebnis.ListeZu();
+}
+
+void ReihenzinsSchreiben(std::span<const Reihensatz> reihe, Effektivmethode methode,
+                         JsonSchreiber& ergebnis) {
+    const Reihenauswertung rate = ReiheAuswerten(reihe, methode);
+    const bool gefunden = !rate.Effektivzins.empty();
+    ergebnis.Feld("Effektivergebnis", rate.Effektivzins);
+    ergebnis.Feld("Effzins", Effektivzinsanzeige(rate.Effektivzins));
+    ergebnis.Name("Zinssatz");
+    gefunden&& rate.Zinssatz ? ergebnis.Wert(*rate.Zinssatz) : ergebnis.Null();
+    ergebnis.Feld("Meld", Getrimmt(rate.Meldung));
+    const auto zeilen =
+        gefunden ? Herleitungszeilen(reihe, methode, rate.Effektivzins) : std::vector<Ergebnissatz>();
+    HerleitungSchreiben("Zeilen", zeilen, ergebnis);
 }
 
 std::optional<Ablehnung> StaffelRechnen(Staffelergebnis& ergebnis, std::optional<Effektivmethode> methode) {

@@ -39,6 +39,10 @@ void StaffelzeilenSchreiben(std::span<const Staffelsatz> zeilen, JsonSchreiber& 
 void HerleitungSchreiben(std::string_view name, std::span<const Ergebnissatz> zeilen,
                          JsonSchreiber& ergebnis);
 
+/// Looks for the effective rate of a series that is not empty and appends the fields of the job `reihe`. A
+/// derivation that cannot be shown is a fault.
+void ReihenzinsSchreiben(std::span<const Reihensatz> reihe, Effektivmethode methode, JsonSchreiber& ergebnis);
+
 /// The account, the three totals of its statement, and its yield if that was asked for.
 struct Staffelergebnis {
     Konto konto{};

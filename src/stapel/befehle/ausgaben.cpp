@@ -51,13 +51,13 @@ std::string AlsAusgabe(const Befehlsergebnis& ergebnis, Ausgabeformat format) {
 
 /// The operation's trap: a fault of the calculation becomes the general message.
 template <typename Rechnung>
-std::optional<Ablehnung> MitFalle(Rechnung rechnung) {
+std::optional<Ablehnung> MitFalle(std::string_view fehlerregister, Rechnung rechnung) {
     try {
         return rechnung();
     } catch (const std::bad_alloc&) {
         throw;
     } catch (const std::exception&) {
-        return Ablehnung{std::string(meldung::angabenFehler), "", ""};
+        return Ablehnung{std::string(meldung::angabenFehler), "", std::string(fehlerregister)};
     }
 }
 
@@ -108,9 +108,10 @@ void AusgabenPruefen(const Ausgabewunsch& wunsch, std::span<const fs::path> eing
 }
 
 int ErgebnisAusgeben(const Ausgabewunsch& wunsch,
-                     const std::function<std::variant<Befehlsergebnis, Ablehnung>()>& rechnen) {
+                     const std::function<std::variant<Befehlsergebnis, Ablehnung>()>& rechnen,
+                     std::string_view fehlerregister) {
     Fertiges fertiges;
-    const auto ablehnung = MitFalle([&]() -> std::optional<Ablehnung> {
+    const auto ablehnung = MitFalle(fehlerregister, [&]() -> std::optional<Ablehnung> {
         const auto ausgang = rechnen();
         if (const auto* abgelehnt = std::get_if<Ablehnung>(&ausgang)) return *abgelehnt;
         const auto& ergebnis = std::get<Befehlsergebnis>(ausgang);

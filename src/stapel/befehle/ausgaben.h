@@ -49,9 +49,11 @@ struct Befehlsergebnis {
 /// another output: no mistyped call may destroy an account.
 void AusgabenPruefen(const Ausgabewunsch& wunsch, std::span<const std::filesystem::path> eingaben);
 
-/// Calculates and writes what is wanted; gives the exit status. A refusal, and a fault of the calculation, is
-/// told on standard error, and in JSON. Throws `Dateifehler` and `Kanalfehler` for what cannot be written.
+/// Calculates and writes what is wanted; gives the exit status. `fehlerregister` is the tab that a fault
+/// selects. A refusal, and a fault of the calculation, is told on standard error, and in JSON. Throws
+/// `Dateifehler` and `Kanalfehler` for what cannot be written.
 [[nodiscard]] int ErgebnisAusgeben(const Ausgabewunsch& wunsch,
-                                   const std::function<std::variant<Befehlsergebnis, Ablehnung>()>& rechnen);
+                                   const std::function<std::variant<Befehlsergebnis, Ablehnung>()>& rechnen,
+                                   std::string_view fehlerregister = {});
 
 }  // namespace zinfolio

@@ -24,19 +24,6 @@ constexpr std::array zinsverrechnungen{
     Wahl{"halbjahr", Zinsverrechnungsart::halbjahresende}, Wahl{"jahr", Zinsverrechnungsart::jahresende},
 };
 
-constexpr std::array verzinsungen{
-    Wahl{"30/360", Verzinsungsmethode::deutsch},       Wahl{"kal/kal", Verzinsungsmethode::englisch},
-    Wahl{"kal/360", Verzinsungsmethode::franzoesisch}, Wahl{"30/365", Verzinsungsmethode::dreissig365},
-    Wahl{"kal/365", Verzinsungsmethode::kalender365},
-};
-
-constexpr std::array ansichten{
-    Wahl{"kurz", Kontoansicht::kurzform},
-    Wahl{"detail1", Kontoansicht::detailansicht1},
-    Wahl{"detail2", Kontoansicht::detailansicht2},
-    Wahl{"detail3", Kontoansicht::detailansicht3},
-};
-
 constexpr const char* beispiele =
     "Beispiele:\n"
     "  zinfolio-cli staffel konto.ZiS --ansicht detail1 --effektiv isma\n"
@@ -93,7 +80,7 @@ Staffeloptionen::Staffeloptionen(CLI::App& zeile)
                                       "Zu Tabellen: " + Aufzaehlung(zinsverrechnungen) + "; sonst jahr")),
       verzinsung_(OptionAnbieten(zeile, "--verzinsung", "METHODE",
                                  "Zu Tabellen: " + Aufzaehlung(verzinsungen) + "; sonst 30/360")),
-      ansicht_(OptionAnbieten(zeile, "--ansicht", "ANSICHT", Aufzaehlung(ansichten) + "; sonst kurz")),
+      ansicht_(OptionAnbieten(zeile, "--ansicht", "ANSICHT", Aufzaehlung(kontoansichtwahl) + "; sonst kurz")),
       effektiv_(OptionAnbieten(zeile, "--effektiv", "METHODE",
                                "Dazu der Effektivzinssatz nach " + Aufzaehlung(effektivwahl))),
       ausgaben_(zeile) {
@@ -129,7 +116,7 @@ Staffelaufruf Staffeloptionen::Lesen() const {
                          .zinssaetze = Optionsdatei(zinssaetze_),
                          .einstellungen = EinstellungenLesen(),
                          .ausgaben = ausgaben_.Lesen()};
-    if (OptionSteht(ansicht_)) aufruf.ansicht = Optionswahl(ansichten, ansicht_);
+    if (OptionSteht(ansicht_)) aufruf.ansicht = Optionswahl(kontoansichtwahl, ansicht_);
     if (OptionSteht(effektiv_)) aufruf.effektivmethode = Optionswahl(effektivwahl, effektiv_);
     return aufruf;
 }

@@ -23,10 +23,11 @@ struct Befehl {
 };
 
 extern const Befehl befehlRechne;
+extern const Befehl befehlReihe;
 extern const Befehl befehlStaffel;
 extern const Befehl befehlStapel;
 
 /// All commands in the order of the help.
-inline constexpr std::array befehle{&befehlStapel, &befehlRechne, &befehlStaffel};
+inline constexpr std::array befehle{&befehlStapel, &befehlRechne, &befehlStaffel, &befehlReihe};
 
 }  // namespace zinfolio

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "kern/dates/datum.h"
+#include "kern/dates/zahl.h"
 #include "stapel/befehle/aufruf.h"
 
 namespace zinfolio {
@@ -41,6 +42,12 @@ std::string Optionsdatum(Option option) {
     if (text.empty() || Datum::Versuche(text)) return text;
     throw Aufruffehler("Die Option " + Angefuehrt(option->get_name()) +
                        " verlangt ein Datum der Form tt.mm.jjjj, " + Angefuehrt(text) + " ist keines.");
+}
+
+std::string Optionszahl(Option option) {
+    std::string text = Optionstext(option);
+    if (OptionSteht(option) && !ZahlVersuch(text)) WertAblehnen(option, "eine Zahl mit Dezimalkomma");
+    return text;
 }
 
 void NebeneinanderAblehnen(std::initializer_list<Option> optionen, std::string_view daneben) {

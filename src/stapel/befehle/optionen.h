@@ -8,7 +8,9 @@
 #include <string>
 #include <string_view>
 
+#include "kern/dates/verzinsungsmethode.h"
 #include "kern/finmath/effektivmethode.h"
+#include "kern/staffel/kontoansicht.h"
 #include "stapel/befehle/ausgaben.h"
 
 namespace zinfolio {
@@ -38,6 +40,9 @@ Option OptionAnbieten(CLI::App& befehl, const char* name, const char* wert, cons
 /// A real date tt.mm.jjjj; empty where the option is missing or its value is empty.
 [[nodiscard]] std::string Optionsdatum(Option option);
 
+/// A number in German notation as text; empty where the option is missing.
+[[nodiscard]] std::string Optionszahl(Option option);
+
 /// Refuses options that stand beside something they do not go with: "... steht nicht neben `daneben`.".
 void NebeneinanderAblehnen(std::initializer_list<Option> optionen, std::string_view daneben);
 
@@ -62,6 +67,21 @@ auto Optionswahl(const Liste& liste, Option option) {
     if (wahl == liste.end()) WertAblehnen(option, Aufzaehlung(liste));
     return wahl->wert;
 }
+
+/// The words of the day-count methods.
+inline constexpr std::array verzinsungen{
+    Wahl{"30/360", Verzinsungsmethode::deutsch},       Wahl{"kal/kal", Verzinsungsmethode::englisch},
+    Wahl{"kal/360", Verzinsungsmethode::franzoesisch}, Wahl{"30/365", Verzinsungsmethode::dreissig365},
+    Wahl{"kal/365", Verzinsungsmethode::kalender365},
+};
+
+/// The words of the views of a statement.
+inline constexpr std::array kontoansichtwahl{
+    Wahl{"kurz", Kontoansicht::kurzform},
+    Wahl{"detail1", Kontoansicht::detailansicht1},
+    Wahl{"detail2", Kontoansicht::detailansicht2},
+    Wahl{"detail3", Kontoansicht::detailansicht3},
+};
 
 /// The words of the methods for an effective rate.
 inline constexpr std::array effektivwahl{

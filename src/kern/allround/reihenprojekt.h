@@ -1,0 +1,33 @@
+#pragma once
+// A payment series as a project: a marker under the name that the user chose, and beside it payments and
+// notes.
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "kern/dateien/dateibefund.h"
+#include "kern/dateien/dateigruppe.h"
+#include "kern/staffel/staffelsatz.h"
+
+namespace zinfolio {
+
+/// The ending of a project and the names of its side files: "ZahlungenT…" and "…Rendite".
+[[nodiscard]] const Gruppenaufbau& Reihenprojektaufbau();
+
+/// A project as it lies on the disk: read as a whole and found to make sense.
+struct Reihenprojekt {
+    /// In the order of their file.
+    std::vector<Staffelsatz> zahlungen;
+    /// The file of the payments, byte for byte.
+    std::string zahlungsdatei;
+    /// A rich-text document, byte for byte.
+    std::string notizen;
+    /// What a calculation would pass over in silence.
+    std::vector<Befund> befunde;
+};
+
+/// A missing file, a record that is no payment and more records than a file may have are a `Dateifehler`.
+[[nodiscard]] Reihenprojekt ReihenprojektLesen(const std::filesystem::path& projektdatei);
+
+}  // namespace zinfolio
