@@ -24,10 +24,12 @@ struct Befehl {
 
 extern const Befehl befehlRechne;
 extern const Befehl befehlReihe;
+extern const Befehl befehlSparen;
 extern const Befehl befehlStaffel;
 extern const Befehl befehlStapel;
 
 /// All commands in the order of the help.
-inline constexpr std::array befehle{&befehlStapel, &befehlRechne, &befehlStaffel, &befehlReihe};
+inline constexpr std::array befehle{&befehlStapel, &befehlRechne, &befehlStaffel, &befehlReihe,
+                                    &befehlSparen};
 
 }  // namespace zinfolio
