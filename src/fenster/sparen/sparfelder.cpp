@@ -205,6 +205,10 @@ void Sparfelder::BeimTippenHelfen(Datumsfeld& feld) {
 void Sparfelder::ListeAnlegen(const Formzeile& zeile, Feldraster& raster) {
     const std::string name(zeile.feld->name);
     QComboBox* liste = NeueAuswahl(name.c_str(), zeile.feld->eintraege, this);
+    // A long entry must not make the whole column wide.
+    constexpr int mindestzeichen = 18;
+    liste->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    liste->setMinimumContentsLength(mindestzeichen);
     const auto glied = zeile.feld->zahl;
     bindungen_.push_back(
         {[liste, glied](Sparplan& plan) { plan.*glied = static_cast<std::int16_t>(liste->currentIndex()); },

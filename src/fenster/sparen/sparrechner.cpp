@@ -25,7 +25,7 @@ std::vector<Kennzahlzeile> Loesungszeile(Sparziel ziel) {
         case Sparziel::rendite:
             return {{"Nzins", "Nominalzins %"}};
         case Sparziel::anspardauer:
-            return {{"Loesung", "Erreicht am"}};
+            return {{"Loesung", "Enddatum"}};
         case Sparziel::anfangskapital:
             return {{"Loesung", "Anfangskapital"}};
         case Sparziel::endkapital:

@@ -50,8 +50,6 @@ inline constexpr std::string_view keineLoesung =
 inline constexpr std::string_view keineZulaessigeLoesung = "Es wurde keine zulässige Lösung gefunden";
 
 inline constexpr std::string_view unbenannt = "Neu / unbenannt";
-inline constexpr std::string_view speichernFrage = "Speichern ?";
-inline constexpr std::string_view titelSpeichern = "Speichern";
 }  // namespace meldung
 
 }  // namespace zinfolio
