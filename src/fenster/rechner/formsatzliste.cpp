@@ -19,7 +19,7 @@ FormSatzliste::FormSatzliste(const Satzlistenart& art, const Satzdatei<Staffelsa
     NeuerBefehl("Bea&rbeiten", {Qt::Key_Return, Qt::Key_Enter}, [this] { bearbeiten(); });
     NeuerBefehl("&Löschen", {QKeySequence::Delete}, [this] { MarkierteLoeschen(); });
     rueckgaengig_ =
-        NeuerBefehl("Löschen &rückgängig", {QKeySequence::Undo}, [this] { LoeschenRueckgaengig(); });
+        NeuerBefehl("Löschen rü&ckgängig", {QKeySequence::Undo}, [this] { LoeschenRueckgaengig(); });
     rueckgaengig_->setObjectName("LöschenRückgängig");
     rueckgaengig_->setEnabled(false);
     connect(tabelle_, &QTableView::doubleClicked, this,

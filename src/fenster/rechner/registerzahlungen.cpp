@@ -65,7 +65,7 @@ constexpr std::array feldzeilen{
                       .titel = "Zahlungs&betrag (+ / -)",
                       .filter = Tastenfilter::betrag,
                       .einheit = "€"}),
-    Feld<&E::Beschreibung>({.name = "Beschreibung", .titel = "Besch&reibung", .laenge = 25}),
+    Feld<&E::Beschreibung>({.name = "Beschreibung", .titel = "Bes&chreibung", .laenge = 25}),
     Feld<&E::Ratzahl>({.name = "Ratzahl", .titel = "&Anzahl Zahlungen", .filter = Tastenfilter::ganzzahl}),
     Feld<&E::Abstand>({.name = "Abstand",
                        .titel = "&im Abstand von",
@@ -78,7 +78,7 @@ constexpr std::array feldzeilen{
                       .art = Feldart::kaestchen,
                       .platzhaltend = true}),
     Feld<&E::Check1>({.name = "Check1",
-                      .titel = "Mehrere Zahlungsstufen mit &Dynamisierung ?",
+                      .titel = "Mehrere Zahlungsstufen mit D&ynamisierung ?",
                       .art = Feldart::kaestchen,
                       .absatz = true}),
     // The account frees these rows by the box, the series shows them by it.
@@ -168,7 +168,7 @@ QWidget* RegisterZahlungen::Eingabeseite() {
     anordnung->addWidget(Label10_);
     anordnung->addLayout(Tastenzeile({
         NeueTaste("Speichern", "&Eingabe übernehmen", this, [this] { EingabeUebernehmen(); }),
-        NeueTaste("übernehmen", "Änderungen ü&bernehmen", this, [this] { AenderungUebernehmen(); }),
+        NeueTaste("übernehmen", "Änderu&ngen übernehmen", this, [this] { AenderungUebernehmen(); }),
         NeueTaste("verwerfen", "Änderungen &verwerfen", this, [this] { AenderungBeenden(); }),
     }));
     anordnung->addStretch();
@@ -189,7 +189,7 @@ QWidget* RegisterZahlungen::Vorschauseite() {
     Grid2_ = new Tabelle("Grid2");
     QWidget* seite =
         Seite(Grid2_, {
-                          NeueTaste("Command3", "ü&bernehmen", this, [this] { VorschauUebernehmen(); }),
+                          NeueTaste("Command3", "über&nehmen", this, [this] { VorschauUebernehmen(); }),
                           NeueTaste("Command4", "&verwerfen", this, [this] { VorschauVerwerfen(); }),
                       });
     seite->setObjectName("Frame3");

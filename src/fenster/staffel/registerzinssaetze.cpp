@@ -26,7 +26,7 @@ constexpr Feldzeile<K> Satzfeld(Feldzeile<K> zeile, std::string_view einheit) {
     return zeile;
 }
 
-constexpr std::array<std::string_view, 2> geltungen{"Für den Gesamt&kontostand",
+constexpr std::array<std::string_view, 2> geltungen{"Für den Gesam&tkontostand",
                                                     "&Nur für den das Limit überschreitenden Betrag"};
 constexpr std::array zweitzinsarten{1, 2};
 
@@ -38,7 +38,7 @@ constexpr std::array feldzeilen{
     Satzfeld(Feld<&K::Guthabenlinie>({.name = "Guthabenlinie", .titel = "Gültig ab Gut&habensaldo von"}),
              "€"),
     Satzfeld(Feld<&K::Kreditzins1>({.name = "Kreditzins1", .titel = "1. &Kreditzinssatz"}), "%"),
-    Satzfeld(Feld<&K::Kreditzins2>({.name = "Kreditzins2", .titel = "2. Kre&ditzinssatz"}), "%"),
+    Satzfeld(Feld<&K::Kreditzins2>({.name = "Kreditzins2", .titel = "2. Kred&itzinssatz"}), "%"),
     Satzfeld(Feld<&K::Kreditlinie>({.name = "Kreditlinie", .titel = "Gültig ab Kredit&saldo von"}), "€"),
     Feld<&K::Zweitzinsart>({.name = "Option1",
                             .titel = "Gültigkeit der Zweitzinssätze ",

@@ -16,7 +16,7 @@ constexpr std::array feldzeilen{
                                    .art = Feldart::liste,
                                    .texte = zinsverrechnungsarten}),
     Feld<&K::Kontodatum>({.name = "Kontodatum",
-                          .titel = "&Datum für Kontoabschluss/-berechnung",
+                          .titel = "Da&tum für Kontoabschluss/-berechnung",
                           .filter = Tastenfilter::datum,
                           .platzhalter = "xx.yy.zzzz"}),
     Feld<&K::Verzinsungsmethode>({.name = "Combo3",
