@@ -15,6 +15,7 @@
 #include "fenster/ui/feldraster.h"
 #include "fenster/ui/kalendertaste.h"
 #include "fenster/ui/meldungsfenster.h"
+#include "fenster/ui/umschalttaste.h"
 #include "kern/dates/datumtippen.h"
 #include "kern/staffel/zahlungseingabe.h"
 
@@ -23,6 +24,8 @@ namespace {
 
 constexpr qsizetype laengeEinesDatums = 10;
 constexpr int abstandDerAbschnitte = 18;
+
+constexpr std::array einheiten{einheitProzent, einheitBetrag};
 
 /// The mnemonics of the tab, one owner each.
 struct Kuerzel {
@@ -229,20 +232,12 @@ QCheckBox* Sparfelder::NeuerHaken(const Formzeile& zeile) {
 }
 
 void Sparfelder::EinheitAnlegen(const Formzeile& zeile, Feldraster& raster) {
-    const std::string name(zeile.feld->name);
-    QPushButton* taste =
-        NeueTaste(name.c_str(), Anzeigetext(einheitProzent), this, [this] { EinheitUmschalten(); });
+    auto* taste = new Umschalttaste(Anzeigetext(zeile.feld->name), einheiten, this);
     bindungen_.push_back(
-        {[taste](Sparplan& plan) { plan.Command6 = taste->text().toStdString(); },
-         [taste](const Sparplan& plan) { taste->setText(QString::fromStdString(plan.Command6)); }});
+        {[taste](Sparplan& plan) { plan.Command6 = einheiten.at(static_cast<std::size_t>(taste->Stelle())); },
+         [taste](const Sparplan& plan) { taste->Setze(plan.Command6 == einheitBetrag ? 1 : 0); }});
+    connect(taste, &Umschalttaste::clicked, this, &Sparfelder::geaendert);
     raster.Zeile("Einheit der Veränderung", taste);
-}
-
-void Sparfelder::EinheitUmschalten() {
-    auto* taste = static_cast<QPushButton*>(Feld(sparfeld::Command6));
-    const bool prozent = taste->text() == Anzeigetext(einheitProzent);
-    taste->setText(Anzeigetext(prozent ? einheitBetrag : einheitProzent));
-    emit geaendert();
 }
 
 void Sparfelder::Verdrahten() {

@@ -62,7 +62,6 @@ class Sparfelder : public QWidget {
     void EinheitAnlegen(const Formzeile& zeile, Feldraster& raster);
     [[nodiscard]] Eingabefeld* NeuesTextfeld(const Formzeile& zeile);
     [[nodiscard]] QWidget* Kalender(const Formzeile& zeile, Datumsfeld& feld);
-    void EinheitUmschalten();
     void BeimTippenHelfen(Datumsfeld& feld);
     void Verdrahten();
     void MonatsletztenAnbieten();
