@@ -57,7 +57,9 @@ class Zeilenschreiber {
         puffer.Fest("{\"Zahlungsart\":");
         puffer.Ganzzahl(satz.Zahlungsart);
         puffer.Fest(",\"Zahlungstext\":");
-        Textfeld(satz.Zahlungstext.Getrimmt());
+        // The condition of a savings plan has a text in its record, which is none of a payment.
+        Textfeld(satz.Zahlungsart == zahlungsart::zahlung ? satz.Zahlungstext.Getrimmt()
+                                                          : std::string_view());
         puffer.Fest(",\"Satzdatum\":");
         Textfeld(satz.Satzdatum.Getrimmt());
         puffer.Fest(",\"Zahlbetrag\":");
