@@ -56,7 +56,7 @@ void Projektablage::Beginnen() {
 }
 
 void Projektablage::NeuBeginnen() {
-    if (DatumSteht(*Fenster()) && AufgebenGewollt()) Beginnen();
+    if (DatumSteht(*Fenster()) && (!art_.neuFragt || AufgebenGewollt())) Beginnen();
 }
 
 void Projektablage::Oeffnen() {

@@ -41,6 +41,8 @@ struct Projektart {
     const Gruppenaufbau* aufbau = nullptr;
     /// What the project that was read last holds and a calculation passes over; optional.
     std::function<std::vector<Befund>()> befunde = {};
+    /// Whether beginning anew asks before it gives up unsaved changes.
+    bool neuFragt = true;
 };
 
 /// A project in files that the user names: new, open, save, save as.

@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 #include <array>
 
+#include "fenster/allround/form61000.h"
 #include "fenster/hilfe/hilfefenster.h"
 #include "fenster/hilfe/impressum.h"
 #include "fenster/hilfe/netzwege.h"
@@ -47,7 +48,7 @@ constexpr std::array kontorechner{
 };
 constexpr std::array reihenrechner{
     Rechnereintrag{"Effektivzinsrechner", "Effektivzinsrechner", "Effektivzinsrechner",
-                   "Rendite, Barwert, Tilgungsplan", "reihe"},
+                   "Rendite, Barwert, Tilgungsplan", "reihe", Anlegen<Form61000>},
     Rechnereintrag{"Finanztabellen", "Finanzmathematische Tabellen", "Finanztabellen",
                    "Die sechs Faktoren als Tafel und einzeln", "tabelle", Anlegen<Form14005>},
 };

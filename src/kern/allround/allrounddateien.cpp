@@ -19,6 +19,15 @@ constexpr std::array vorgabezeilen{Selbstfeld<&Allroundvorgaben::Abzins>(1)};
 constexpr Selbstwertaufbau<Allroundvorgaben> vorgabedatei{100, vorgabezeilen};
 constexpr std::string_view vorgabename = "Allrounddatenallgemein";
 
+/// A damaged file counts as none: the calculator must open all the same.
+Selbstwert VorgabeLesen(const std::filesystem::path& datei) {
+    try {
+        return vorgabedatei.Lesen(datei).Abzins;
+    } catch (const Dateifehler&) {
+        return vorgabe;
+    }
+}
+
 /// Runs an operation and then what leaves its files, whether it threw or not.
 template <typename Rechenweg, typename Ablegen>
 std::optional<Ablehnung> RechnenUndAblegen(Rechenweg rechenweg, Ablegen ablegen) {
@@ -105,7 +114,7 @@ std::optional<Ablehnung> Allrounddateien::TilgungsplanRechnen(const Planeingabe&
 }
 
 std::string Allrounddateien::VorgabezinsLesen() const {
-    const Selbstwert wert = vorgabedatei.Lesen(ordner_ / vorgabename).Abzins;
+    const Selbstwert wert = VorgabeLesen(ordner_ / vorgabename);
     if (const auto* text = std::get_if<std::string>(&wert))
         return text->empty() ? std::string(vorgabezins) : *text;
     if (const auto* zahl = std::get_if<std::int16_t>(&wert)) return std::to_string(*zahl);

@@ -42,7 +42,8 @@ class Allrounddateien {
     [[nodiscard]] std::optional<Ablehnung> TilgungsplanRechnen(const Planeingabe& eingabe,
                                                                Tilgungsplan& plan) const;
 
-    /// The default rate as typed; "10" where none is stored. Of `Allrounddatenallgemein`.
+    /// The default rate as typed; "10" where none is stored, or nothing that can be read. Of
+    /// `Allrounddatenallgemein`.
     [[nodiscard]] std::string VorgabezinsLesen() const;
     /// Stores it; an empty text stores the whole number 10.
     void VorgabezinsSchreiben(const std::string& abzins) const;

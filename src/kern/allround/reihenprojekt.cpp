@@ -4,12 +4,15 @@
 #include <span>
 #include <utility>
 
+#include "kern/dateien/ganzedatei.h"
+#include "kern/grund/windows1252.h"
 #include "kern/staffel/staffeldatei.h"
 
 namespace zinfolio {
 namespace {
 
-constexpr std::array<Beidatei, 2> beidateien{{{"ZahlungenT", ""}, {"", "Rendite"}}};
+constexpr std::string_view arbeitsdatei = "ZahlungenT";
+constexpr std::array<Beidatei, 2> beidateien{{{arbeitsdatei, ""}, {"", "Rendite"}}};
 constexpr Gruppenaufbau aufbau{".RRR", beidateien};
 
 }  // namespace
@@ -28,6 +31,19 @@ Reihenprojekt ReihenprojektLesen(const std::filesystem::path& projektdatei) {
     projekt.zahlungen = StaffelsaetzeAus(std::as_bytes(std::span(projekt.zahlungsdatei)),
                                          zahlungsart::zahlung, gruppe.Datei(1), projekt.befunde);
     return projekt;
+}
+
+void ReihenprojektSpeichern(const std::filesystem::path& arbeitsordner,
+                            const std::filesystem::path& projektdatei, std::string_view vorherigerName,
+                            std::string_view notizen) {
+    const std::string zahlungen = GanzeDateiLesen(arbeitsordner / arbeitsdatei, hoechsteDateilaenge);
+    const std::string marke = NachWindows1252(vorherigerName) + "\r\n";
+    const std::array<std::string_view, 3> inhalte{marke, zahlungen, notizen};
+    Dateigruppe(projektdatei, aufbau).Speichern(inhalte, Sicherung::Dauerhaft);
+}
+
+void ReihenprojektUebernehmen(const std::filesystem::path& arbeitsordner, const Reihenprojekt& projekt) {
+    AtomarSchreiben(arbeitsordner / arbeitsdatei, projekt.zahlungsdatei, Sicherung::Fluechtig);
 }
 
 }  // namespace zinfolio

@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "kern/dateien/dateibefund.h"
@@ -29,5 +30,15 @@ struct Reihenprojekt {
 
 /// A missing file, a record that is no payment and more records than a file may have are a `Dateifehler`.
 [[nodiscard]] Reihenprojekt ReihenprojektLesen(const std::filesystem::path& projektdatei);
+
+/// Saves `ZahlungenT` of a folder and the notes as a project, over one that exists: all three files or none.
+/// The marker holds one line with the name that the project had before (wanted), empty where it had none.
+/// Throws `Dateifehler`.
+void ReihenprojektSpeichern(const std::filesystem::path& arbeitsordner,
+                            const std::filesystem::path& projektdatei, std::string_view vorherigerName,
+                            std::string_view notizen);
+
+/// Puts the payments in the place of `ZahlungenT` of a folder. Throws `Dateifehler`.
+void ReihenprojektUebernehmen(const std::filesystem::path& arbeitsordner, const Reihenprojekt& projekt);
 
 }  // namespace zinfolio

@@ -1,7 +1,6 @@
 #pragma once
 // What the jobs of the all-round calculator, and the command beside them, share.
 
-#include <stdexcept>
 #include <vector>
 
 #include "kern/allround/planzeilen.h"
@@ -37,15 +36,5 @@ void WertergebnisSchreiben(const Wertergebnis& werte, JsonSchreiber& ergebnis);
 
 /// Appends the fields of a complete plan to an open object.
 void PlanSchreiben(const Tilgungsplan& plan, JsonSchreiber& ergebnis);
-
-/// Calculates where the form says nothing about a fault: it becomes a refusal without words.
-template <typename Rechenweg>
-std::optional<Ablehnung> StillRechnen(Rechenweg rechenweg) {
-    try {
-        return rechenweg();
-    } catch (const std::runtime_error&) {
-        return Ablehnung{};
-    }
-}
 
 }  // namespace zinfolio

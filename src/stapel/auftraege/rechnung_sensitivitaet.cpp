@@ -1,6 +1,7 @@
 #include <string>
 
 #include "kern/allround/sensitivitaet.h"
+#include "kern/allround/stillrechnen.h"
 #include "stapel/auftraege/allroundfelder.h"
 #include "stapel/auftraege/rechnungen.h"
 

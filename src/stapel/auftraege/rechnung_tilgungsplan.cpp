@@ -1,6 +1,7 @@
 #include <string>
 #include <vector>
 
+#include "kern/allround/stillrechnen.h"
 #include "kern/allround/tilgungsplan.h"
 #include "kern/allround/zahlungsreihe.h"
 #include "stapel/auftraege/allroundfelder.h"

@@ -152,6 +152,11 @@ TEST_F(Allrounddateientest, LeererVorgabezinsWirdDieGanzeZahlZehn) {
     EXPECT_EQ(dateien.VorgabezinsLesen(), "10");
 }
 
+TEST_F(Allrounddateientest, BeschaedigterVorgabezinsIstZehn) {
+    ordner.Ablegen("Allrounddatenallgemein", std::string("\x63\x00\x00\x00", 4));
+    EXPECT_EQ(dateien.VorgabezinsLesen(), "10");
+}
+
 TEST_F(Allrounddateientest, LeererTextInDerDateiIstZehn) {
     ordner.Ablegen("Allrounddatenallgemein", std::string("\x08\x00\x00\x00", 4));
     EXPECT_EQ(dateien.VorgabezinsLesen(), "10");
