@@ -50,6 +50,7 @@ _raum("fenster/start", *(raum for raum in RAEUME if not raum.startswith("stapel/
 # Foreign headers, and the rooms or wings that may include them.
 FREMD = (
     (re.compile(r"Q[A-Z]|Qt[A-Z]|qcustomplot|ui_\w+\.h$|\w+\.moc$|moc_\w+\.cpp$"), ("fenster",)),
+    (re.compile(r"xlsxwriter\.h$"), ("fenster/ui",)),
     (re.compile(r"simdjson\.h$|CLI/"), ("stapel",)),
     (re.compile(r"(fcntl|pwd|unistd|sys/stat|sys/types|sys/file|sys/mman|sys/random|malloc|dlfcn)\.h$"), ("kern/dateien", "stapel")),
 )

@@ -1,25 +1,23 @@
 #include "fenster/ui/tabelle.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QWheelEvent>
 #include <algorithm>
+#include <cmath>
 #include <numeric>
+
+#include "fenster/ui/tabellenbefehle.h"
 
 namespace zinfolio {
 
 Tabelle::Tabelle(const QString& name, QWidget* eltern)
-    : QTableView(eltern), modell_(new Tabellenmodell(this)) {
+    : QTableView(eltern), modell_(new Tabellenmodell(this)), normalepunkte_(font().pointSizeF()) {
     setObjectName(name);
-    setContextMenuPolicy(Qt::ActionsContextMenu);
-    auto* kopieren = new QAction("&Kopieren", this);
-    kopieren->setShortcut(QKeySequence::Copy);
-    kopieren->setShortcutContext(Qt::WidgetShortcut);
-    connect(kopieren, &QAction::triggered, this, &Tabelle::AuswahlKopieren);
-    addAction(kopieren);
     setModel(modell_);
+    TabellenbefehleAnlegen(*this);
     setAlternatingRowColors(true);
     setSelectionBehavior(SelectRows);
     setSelectionMode(ExtendedSelection);
@@ -29,7 +27,7 @@ Tabelle::Tabelle(const QString& name, QWidget* eltern)
     setHorizontalScrollMode(ScrollPerPixel);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + fontMetrics().height() / 2);
+    ZeilenhoeheSetzen();
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setDefaultAlignment(Qt::AlignCenter);
 }
@@ -66,20 +64,57 @@ void Tabelle::Markiere(const std::vector<std::size_t>& zeilen) {
     selectionModel()->select(auswahl, QItemSelectionModel::Select | QItemSelectionModel::Rows);
 }
 
-QString Tabelle::AuswahlAlsText() const {
+QString Tabelle::AuswahlAlsText(Kopfzeile kopfzeile) const {
     QString text;
-    for (const std::size_t zeile : MarkierteZeilen()) {
+    const auto zeile = [&](const auto& zelle) {
         for (int spalte = 0; spalte < modell_->columnCount(); ++spalte) {
             if (spalte > 0) text += '\t';
-            text += modell_->index(static_cast<int>(zeile), spalte).data().toString();
+            text += zelle(spalte);
         }
         text += '\n';
-    }
+    };
+    if (kopfzeile == Kopfzeile::mit)
+        zeile(
+            [&](int spalte) { return modell_->headerData(spalte, Qt::Horizontal).toString().simplified(); });
+    for (const std::size_t nummer : MarkierteZeilen())
+        zeile([&](int spalte) { return modell_->index(static_cast<int>(nummer), spalte).data().toString(); });
     return text;
 }
 
-void Tabelle::AuswahlKopieren() const {
-    QApplication::clipboard()->setText(AuswahlAlsText());
+void Tabelle::AuswahlKopieren(Kopfzeile kopfzeile) const {
+    QApplication::clipboard()->setText(AuswahlAlsText(kopfzeile));
+}
+
+void Tabelle::Vergroessern(int stufen) {
+    constexpr int kleinste = -4;
+    constexpr int groesste = 10;
+    stufe_ = std::clamp(stufe_ + stufen, kleinste, groesste);
+    GroesseZeigen();
+}
+
+void Tabelle::NormaleGroesse() {
+    stufe_ = 0;
+    GroesseZeigen();
+}
+
+void Tabelle::GroesseZeigen() {
+    constexpr double zuwachs = 1.1;
+    QFont schrift = font();
+    schrift.setPointSizeF(normalepunkte_ * std::pow(zuwachs, stufe_));
+    setFont(schrift);
+    ZeilenhoeheSetzen();
+    SpaltenMessen();
+    SpaltenVerteilen();
+}
+
+void Tabelle::ZeilenhoeheSetzen() {
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + fontMetrics().height() / 2);
+}
+
+void Tabelle::wheelEvent(QWheelEvent* ereignis) {
+    if ((ereignis->modifiers() & Qt::ControlModifier) == 0) return QTableView::wheelEvent(ereignis);
+    if (const int weite = ereignis->angleDelta().y(); weite != 0) Vergroessern(weite > 0 ? 1 : -1);
+    ereignis->accept();
 }
 
 int Tabelle::Spaltenbreite(int spalte) const {

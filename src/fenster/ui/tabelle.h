@@ -6,9 +6,12 @@
 
 namespace zinfolio {
 
-/// The program's table: whole rows are selected, rows alternate, columns fit their content and share
-/// what room is left, Ctrl+C copies the
-/// selection as tab-separated text.
+/// Whether a text of rows begins with the headers of their columns.
+enum class Kopfzeile : bool { ohne, mit };
+
+/// The program's table: whole rows are selected, rows alternate, columns fit their content and share what
+/// room is left. Its commands (`tabellenbefehle.h`) stand in its context menu; Ctrl and the wheel change its
+/// size.
 class Tabelle : public QTableView {
     Q_OBJECT
 
@@ -27,19 +30,30 @@ class Tabelle : public QTableView {
     /// Selects these rows, and scrolls to the first of them.
     void Markiere(const std::vector<std::size_t>& zeilen);
 
-    /// The selected rows as text: cells separated by tabs, rows by line ends.
-    [[nodiscard]] QString AuswahlAlsText() const;
+    [[nodiscard]] const Tabelleninhalt& Inhalt() const { return modell_->Inhalt(); }
+
+    /// The selected rows as text: cells separated by tabs, rows by line ends. A header of several lines is
+    /// one.
+    [[nodiscard]] QString AuswahlAlsText(Kopfzeile kopfzeile = Kopfzeile::ohne) const;
 
     /// Puts `AuswahlAlsText` on the clipboard.
-    void AuswahlKopieren() const;
+    void AuswahlKopieren(Kopfzeile kopfzeile = Kopfzeile::ohne) const;
+
+    /// Shows all larger by so many steps, or smaller by negative ones; there is a smallest and a largest
+    /// size.
+    void Vergroessern(int stufen);
+    void NormaleGroesse();
 
   protected:
+    void wheelEvent(QWheelEvent* ereignis) override;
     void resizeEvent(QResizeEvent* ereignis) override;
     void keyPressEvent(QKeyEvent* ereignis) override;
     /// Home and End go to the first and the last row.
     QModelIndex moveCursor(CursorAction schritt, Qt::KeyboardModifiers zusatz) override;
 
   private:
+    void ZeilenhoeheSetzen();
+    void GroesseZeigen();
     void SpaltenMessen();
     void SpaltenVerteilen();
     [[nodiscard]] int Spaltenbreite(int spalte) const;
@@ -47,6 +61,9 @@ class Tabelle : public QTableView {
     Tabellenmodell* modell_;
     /// What each column needs.
     std::vector<int> breiten_;
+    /// The size of the font without any steps, in points.
+    double normalepunkte_;
+    int stufe_ = 0;
 };
 
 }  // namespace zinfolio

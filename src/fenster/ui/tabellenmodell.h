@@ -15,6 +15,7 @@ class Tabellenmodell : public QAbstractTableModel {
 
     /// Shows another content.
     void Setze(Tabelleninhalt inhalt);
+    [[nodiscard]] const Tabelleninhalt& Inhalt() const { return inhalt_; }
 
     [[nodiscard]] int rowCount(const QModelIndex& eltern = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex& eltern = {}) const override;

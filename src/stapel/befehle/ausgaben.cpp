@@ -6,6 +6,7 @@
 
 #include "kern/bericht/htmlbericht.h"
 #include "kern/bericht/rtfbericht.h"
+#include "kern/bericht/tabellentext.h"
 #include "kern/dateien/atomar.h"
 #include "kern/dateien/dateifehler.h"
 #include "kern/grund/meldungen.h"
@@ -13,7 +14,6 @@
 #include "stapel/befehle/aufruf.h"
 #include "stapel/befehle/kanal.h"
 #include "stapel/befehle/pdfmodul.h"
-#include "stapel/befehle/tabellentext.h"
 
 namespace zinfolio {
 namespace {

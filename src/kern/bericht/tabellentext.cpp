@@ -1,4 +1,4 @@
-#include "stapel/befehle/tabellentext.h"
+#include "kern/bericht/tabellentext.h"
 
 #include <algorithm>
 #include <string_view>

@@ -1,9 +1,8 @@
-#include "stapel/befehle/tabellentext.h"
-
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
 
+#include "kern/bericht/tabellentext.h"
 #include "kern/staffel/beispielkonto.h"
 #include "kern/staffel/kontoansicht.h"
 
