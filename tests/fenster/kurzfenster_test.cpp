@@ -5,6 +5,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 
 #include "fenster/ausgabe/form34.h"
 #include "fenster/formhelfer.h"
@@ -65,6 +66,14 @@ class KurzfensterTest : public QObject {
         Klicke(dauer.fenster, "Command1");
         QCOMPARE(dauer.Ergebnis("Laufjahre"), "9,00");
         QCOMPARE(dauer.Ergebnis("Lauftage"), "261,00");
+    }
+
+    void allesStehtImBlickOhneRollen() {
+        for (const Kurzrechner& rechner : AlleKurzrechner()) {
+            Kurzstand stand(rechner.form);
+            for (const QScrollBar* leiste : stand.fenster.findChildren<QScrollBar*>())
+                QVERIFY2(!leiste->isVisible(), rechner.name.data());
+        }
     }
 
     void renditeOhneLaufzeitWirdAbgelehnt() {

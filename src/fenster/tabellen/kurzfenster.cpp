@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -87,8 +88,12 @@ Kurzfenster::Kurzfenster(const Kurzrechner& rechner, std::filesystem::path arbei
     spalte->addWidget(Ergebnistafel());
     spalte->addStretch();
     auto* anordnung = new QVBoxLayout(this);
-    anordnung->addWidget(Rollbar(inhalt), 1);
+    QWidget* rahmen = Rollbar(inhalt);
+    anordnung->addWidget(rahmen, 1);
     anordnung->addLayout(Tastenzeile({Command1_, Command3_, Command2_}));
+    // All is in view as far as the screen has room for it; a page that scrolls asks for less by itself.
+    const QSize umher = anordnung->sizeHint() - rahmen->sizeHint() + QSize(4, 4);
+    resize((inhalt->sizeHint() + umher).boundedTo(screen()->availableSize()));
     for (const auto& [taste, knopf] :
          {std::pair(Qt::Key_Escape, Command2_), std::pair(Qt::Key_F9, Command1_)})
         connect(new QShortcut(QKeySequence(taste), this), &QShortcut::activated, knopf, &QPushButton::click);
