@@ -1,8 +1,6 @@
 #include "kern/staffel/staffelsortierung.h"
 
 #include <algorithm>
-#include <array>
-#include <bit>
 #include <cstdint>
 #include <numeric>
 
@@ -14,9 +12,13 @@ namespace {
 using Platz = std::uint32_t;
 
 struct Schluesselplatz {
-    std::uint64_t schluessel = 0;
+    double schluessel = 0;
     Platz platz = 0;
 };
+
+bool NachSchluessel(const Schluesselplatz& a, const Schluesselplatz& b) {
+    return a.schluessel < b.schluessel;
+}
 
 /// Numeric value of a key; the eight digits of an undamaged one are read directly.
 double Schluesselwert(const Staffelsatz& satz) {
@@ -30,17 +32,10 @@ double Schluesselwert(const Staffelsatz& satz) {
     return text.substr(8) == "  " ? wert : Zahlwert(text);
 }
 
-/// The key as a number whose unsigned order is the order of the keys.
-std::uint64_t Ordnungszahl(double schluessel) {
-    const auto bits = std::bit_cast<std::uint64_t>(schluessel + 0.0);
-    constexpr std::uint64_t vorzeichen = std::uint64_t{1} << 63U;
-    return (bits & vorzeichen) != 0 ? ~bits : bits | vorzeichen;
-}
-
 std::vector<Schluesselplatz> Schluessel(const std::vector<Staffelsatz>& saetze) {
     std::vector<Schluesselplatz> schluessel(saetze.size());
     for (Platz platz = 0; platz < saetze.size(); ++platz) {
-        schluessel[platz] = {Ordnungszahl(Schluesselwert(saetze[platz])), platz};
+        schluessel[platz] = {Schluesselwert(saetze[platz]), platz};
     }
     return schluessel;
 }
@@ -82,29 +77,8 @@ class Tauschverfolgung {
     std::vector<Platz> satzAn_;
 };
 
-/// One pass of a radix sort: stable by eight bits of the key. Nothing to do where they are all the same.
-void OrdneNachByte(std::vector<Schluesselplatz>& schluessel, std::vector<Schluesselplatz>& ablage,
-                   unsigned verschub) {
-    const auto byte = [&](const Schluesselplatz& s) { return (s.schluessel >> verschub) & 0xFFU; };
-    std::array<std::size_t, 257> anfaenge{};
-    for (const Schluesselplatz& s : schluessel)
-        ++anfaenge[byte(s) + 1];
-    if (anfaenge[byte(schluessel.front()) + 1] == schluessel.size()) return;
-    std::partial_sum(anfaenge.begin(), anfaenge.end(), anfaenge.begin());
-    for (const Schluesselplatz& s : schluessel)
-        ablage[anfaenge[byte(s)]++] = s;
-    schluessel.swap(ablage);
-}
-
-/// Orders by key, and by place where keys are equal.
-void OrdneNachSchluessel(std::vector<Schluesselplatz>& schluessel) {
-    std::vector<Schluesselplatz> ablage(schluessel.size());
-    for (unsigned verschub = 0; verschub < 64; verschub += 8)
-        OrdneNachByte(schluessel, ablage, verschub);
-}
-
 std::vector<Platz> Auswahlordnung(std::vector<Schluesselplatz> schluessel) {
-    OrdneNachSchluessel(schluessel);
+    std::stable_sort(schluessel.begin(), schluessel.end(), NachSchluessel);
     Tauschverfolgung verfolgung(schluessel.size());
     std::vector<Platz> gruppe;
     for (std::size_t anfang = 0; anfang < schluessel.size(); anfang += gruppe.size()) {
@@ -120,10 +94,7 @@ std::vector<Platz> Auswahlordnung(std::vector<Schluesselplatz> schluessel) {
 
 void SortiereNachSchluessel(std::vector<Staffelsatz>& saetze) {
     std::vector<Schluesselplatz> schluessel = Schluessel(saetze);
-    const auto kleiner = [](const Schluesselplatz& a, const Schluesselplatz& b) {
-        return a.schluessel < b.schluessel;
-    };
-    if (std::is_sorted(schluessel.begin(), schluessel.end(), kleiner)) return;
+    if (std::is_sorted(schluessel.begin(), schluessel.end(), NachSchluessel)) return;
     std::vector<Staffelsatz> sortiert;
     sortiert.reserve(saetze.size());
     for (const Platz platz : Auswahlordnung(std::move(schluessel)))
