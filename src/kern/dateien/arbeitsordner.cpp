@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "kern/dateien/dateifehler.h"
+#include "kern/dateien/programmordner.h"
 
 namespace zinfolio {
 namespace {
@@ -28,11 +29,6 @@ fs::path HeimAusKonto() {
     passwd* gefunden = nullptr;
     ::getpwuid_r(::getuid(), &eintrag, puffer.data(), puffer.size(), &gefunden);
     return gefunden == nullptr || gefunden->pw_dir == nullptr ? fs::path() : fs::path(gefunden->pw_dir);
-}
-
-fs::path Programmordner() {
-    std::error_code fehler;
-    return fs::read_symlink("/proc/self/exe", fehler).parent_path();
 }
 
 [[noreturn]] void Gescheitert(const fs::path& ordner, int fehlernummer) {

@@ -28,7 +28,7 @@ class Satzfehler : public Dateifehler {
     using Dateifehler::Dateifehler;
 };
 
-/// The German words for an `errno` value; the system's own text for the rare ones.
+/// The German words for an `errno` value; its number for those that no file meets.
 [[nodiscard]] std::string Systemgrund(int fehlernummer);
 
 /// `Die Datei "X" kann nicht <vorgang> werden: <reason>`; `vorgang` is a participle such as "gelesen".

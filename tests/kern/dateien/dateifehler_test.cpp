@@ -2,6 +2,8 @@
 
 #include <cerrno>
 #include <gtest/gtest.h>
+#include <string>
+#include <system_error>
 
 namespace zinfolio {
 namespace {
@@ -19,8 +21,28 @@ TEST(Systemfehler, SagtDenGrundDesSystemsAufDeutsch) {
                  "Die Datei \"/o/Lösungsdatei\" kann nicht gelesen werden: Keine Berechtigung.");
 }
 
-TEST(Systemgrund, SeltenesBekommtDenTextDesSystems) {
-    EXPECT_NE(Systemgrund(EMFILE), "");
+TEST(Systemgrund, JederFehlerHatEinenDeutschenSatz) {
+    constexpr int letzter = EHWPOISON;
+    for (int fehler = 1; fehler <= letzter; ++fehler) {
+        const std::string grund = Systemgrund(fehler);
+        EXPECT_NE(grund, std::generic_category().message(fehler));
+        EXPECT_TRUE(grund.ends_with('.')) << grund;
+    }
+}
+
+TEST(Systemgrund, WasDateienTrifftHatSeinenEigenen) {
+    for (const int fehler :
+         {EPERM,     ENOENT,    EINTR,     EIO,       ENXIO,      EAGAIN,   ENOMEM,       EACCES,    EBUSY,
+          EEXIST,    EXDEV,     ENODEV,    ENOTDIR,   EISDIR,     EINVAL,   ENFILE,       EMFILE,    ETXTBSY,
+          EFBIG,     ENOSPC,    ESPIPE,    EROFS,     EMLINK,     EPIPE,    ENAMETOOLONG, ENOLCK,    ENOSYS,
+          ENOTEMPTY, ELOOP,     EOVERFLOW, EILSEQ,    EOPNOTSUPP, ENETDOWN, EHOSTDOWN,    ETIMEDOUT, ESTALE,
+          EUCLEAN,   EREMOTEIO, EDQUOT,    ENOMEDIUM, ENOTCONN,   ENOKEY})
+        EXPECT_EQ(Systemgrund(fehler).find("den Fehler"), std::string::npos) << fehler;
+    EXPECT_EQ(Systemgrund(EMFILE), "Im Programm sind zu viele Dateien offen.");
+}
+
+TEST(Systemgrund, UnbekannterFehlerHatSeineNummer) {
+    EXPECT_EQ(Systemgrund(4711), "Das System meldet den Fehler 4711.");
 }
 
 }  // namespace
