@@ -2,8 +2,8 @@
 
 #include <cstdint>
 #include <dlfcn.h>
-#include <filesystem>
-#include <system_error>
+
+#include "kern/dateien/programmordner.h"
 
 namespace zinfolio {
 namespace {
@@ -16,11 +16,6 @@ constexpr const char* layoutname = "ZinfolioBerichtslayout";
 
 /// Gives 0 for success, else the reason in `fehler`.
 using Modulfunktion = int (*)(const Bericht*, const char* datei, std::string* fehler);
-
-std::filesystem::path Programmordner() {
-    std::error_code fehler;
-    return std::filesystem::read_symlink("/proc/self/exe", fehler).parent_path();
-}
 
 /// Null where the module is missing, or was built with another report. It stays loaded until the program
 /// ends.
