@@ -31,11 +31,8 @@ std::string NachWindows1252(std::string_view utf8) {
     if (std::all_of(utf8.begin(), utf8.end(), istAscii)) return std::string(utf8);
     std::string bytes;
     bytes.reserve(utf8.size());
-    while (!utf8.empty()) {
-        const auto zeichen = Utf8Lesen(utf8);
-        bytes += zeichen ? Windows1252Byte(zeichen->codepunkt).value_or('?') : '?';
-        utf8.remove_prefix(zeichen ? zeichen->laenge : 1);
-    }
+    JedesUtf8Zeichen(
+        utf8, [&](char32_t zeichen, std::string_view) { bytes += Windows1252Byte(zeichen).value_or('?'); });
     return bytes;
 }
 

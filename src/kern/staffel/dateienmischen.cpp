@@ -1,15 +1,14 @@
 #include "kern/staffel/dateienmischen.h"
 
-#include <limits>
 #include <string>
 
+#include "kern/dateien/satzdatei.h"
 #include "kern/grund/rechenfehler.h"
 #include "kern/staffel/meldungen.h"
 
 namespace zinfolio {
 namespace {
 
-constexpr std::size_t hoechstzahl = std::numeric_limits<std::int16_t>::max();
 constexpr Datum kalenderende = *Datum::Aus(Datum::letztesJahr, 12, 31);
 
 /// Walks over one source. Behind its last row it stands at the end of the calendar; a row that is dated there
@@ -70,7 +69,7 @@ std::optional<Ablehnung> dateienmischen(const Staffelquellen& quellen, Datum abs
     do {
         Quelle& naechste = NaechsteQuelle(zahlungen, konditionen, termine);
         if (naechste.Stand() > abschluss) break;
-        if (loesung.size() >= hoechstzahl) throw Rechenfehler("Die Staffel hat mehr als 32767 Zeilen.");
+        if (loesung.size() >= HoechstzahlSaetze) throw Rechenfehler("Die Staffel hat mehr als 32767 Zeilen.");
         loesung.push_back(naechste.Satz());
         naechste.Weiter();
     } while (!(zahlungen.AmEnde() && konditionen.AmEnde() && termine.AmEnde()));

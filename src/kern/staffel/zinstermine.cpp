@@ -1,12 +1,11 @@
 #include "kern/staffel/zinstermine.h"
 
-#include <limits>
 #include <vector>
+
+#include "kern/dateien/satzdatei.h"
 
 namespace zinfolio {
 namespace {
-
-constexpr std::size_t hoechstzahl = std::numeric_limits<std::int16_t>::max();
 
 int Monate(Zinsverrechnungsart art) {
     static constexpr std::array<int, 6> monate{1, 2, 3, 4, 6, 12};
@@ -32,7 +31,7 @@ void Zinstermine(Datum erstdatum, Datum kontodatum, Zinsverrechnungsart art, std
         datum = NaechsterZinstermin(datum, art);
     termine.push_back(datum);
     while (true) {
-        if (termine.size() >= hoechstzahl) throw Datumsfehler("Es gibt mehr als 32767 Zinstermine.");
+        if (termine.size() >= HoechstzahlSaetze) throw Datumsfehler("Es gibt mehr als 32767 Zinstermine.");
         datum = NaechsterZinstermin(datum, art);
         if (datum >= kontodatum) break;
         termine.push_back(datum);
