@@ -9,6 +9,7 @@
 #include "kern/allround/reihenprojekt.h"
 #include "kern/allround/reihenzins.h"
 #include "kern/allround/sensitivitaet.h"
+#include "kern/allround/stillrechnen.h"
 #include "kern/allround/zahlungsreihe.h"
 #include "kern/dateien/satzdatei.h"
 #include "kern/grund/rechenfehler.h"
