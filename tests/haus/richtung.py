@@ -54,6 +54,8 @@ FREMD = (
     (re.compile(r"simdjson\.h$|CLI/"), ("stapel",)),
     (re.compile(r"(fcntl|pwd|unistd|sys/stat|sys/types|sys/file|sys/mman|sys/random|malloc|dlfcn)\.h$"), ("kern/dateien", "stapel")),
 )
+# Variables that the linker merges by their name, whatever their type.
+INLINEVARIABLE = re.compile(r"^inline constexpr [^=({;]*?([\w]+)(?: =|\{)", re.M)
 STANDARDKOPF = re.compile(r"[a-z_0-9]+$")
 
 INCLUDE = re.compile(r'\s*#\s*include\s*(?:"([^"]+)"|<([^>]+)>)')
@@ -109,13 +111,22 @@ def includes_von(datei):
     return [(nummer, *treffer.groups("")) for nummer, zeile in zeilen if (treffer := INCLUDE.match(zeile))]
 
 
+def doppelte_variablen(dateien):
+    """Inline variables of one name in two headers, each as a line of text."""
+    orte = {}
+    for datei in (datei for datei in dateien if datei.suffix == ".h"):
+        for name in INLINEVARIABLE.findall(datei.read_text(encoding="utf-8")):
+            orte.setdefault(name, []).append(datei.name)
+    return [f"{name} steht in {' und '.join(gefunden)}" for name, gefunden in orte.items() if len(gefunden) > 1]
+
+
 def pruefe(src):
     """All offences below a source folder, as lines of text."""
     src = Path(src).resolve()
     dateien = sorted(d for d in src.rglob("*") if d.suffix in ENDUNGEN)
     if not dateien:
         return [f"{src}: keine Quellen gefunden"]
-    gefunden = []
+    gefunden = doppelte_variablen(dateien)
     for datei in dateien:
         pfad = datei.relative_to(src)
         von = raum(pfad)

@@ -114,6 +114,15 @@ class Richtung(unittest.TestCase):
             ["fenster/sparen/form90000.cpp:1: fenster/sparen darf fenster/start nicht kennen (fenster/start/form1.h)"],
         )
 
+    def test_inline_variablen_haben_einen_namen_fuer_sich(self):
+        self.assertEqual(
+            verstoesse(
+                kern__sparen__a_h="inline constexpr std::array<double, 2> schritte{1, 2};",
+                kern__tabellen__b_h="inline constexpr int schritte = 3;",
+            ),
+            ["schritte steht in a.h und b.h"],
+        )
+
     def test_unbekannter_raum_ist_ein_fehler(self):
         self.assertEqual(verstoesse(hilfe__x_h=""), ["hilfe/x.h: liegt in keinem bekannten Raum"])
         self.assertEqual(verstoesse(lose_h=""), ["lose.h: liegt in keinem bekannten Raum"])

@@ -21,7 +21,7 @@ constexpr int ueblicherSchritt = 2;
 Sensitivitaetsseite::Sensitivitaetsseite(QWidget* eltern)
     : QWidget(eltern),
       MiZins_(new Eingabefeld("MiZins", Tastenfilter::betrag, this)),
-      Combo2_(NeueAuswahl("Combo2", schrittweitentexte, this)),
+      Combo2_(NeueAuswahl("Combo2", zinsschritttexte, this)),
       Grid4_(new Tabelle("Grid4", this)),
       hinweis_(new QLabel("Mit diesen Angaben ließ sich die Tabelle nicht rechnen.", this)) {
     setObjectName("Frame(3)");

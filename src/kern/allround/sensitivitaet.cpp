@@ -104,7 +104,7 @@ std::optional<Ablehnung> SensitivitaetRechnen(std::span<const Staffelsatz> zahlu
     if (eingabe.MiZins.empty()) eingabe.MiZins = eingabe.Abzins;
     if (zahlungen.empty()) return OhneZahlungen(meldung::erstZahlungen);
     const std::vector<Zahlung> reihe = ReiheLesen(zahlungen);
-    const double schritt = schrittweiten.at(eingabe.Combo2);
+    const double schritt = zinsschritte.at(eingabe.Combo2);
     double zins = std::max(Zahlwert(eingabe.MiZins) - 5 * schritt, 0.0) - schritt;
     Uebertrag uebertrag;
     Zellentabelle neue(Koepfe(eingabe.Anzeigeart));

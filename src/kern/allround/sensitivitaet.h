@@ -16,9 +16,9 @@
 namespace zinfolio {
 
 /// The steps between two rates, percent; the texts of the list are labels alone.
-inline constexpr std::array<double, 7> schrittweiten{0.1, 0.5, 1, 2, 3, 4, 5};
-inline constexpr std::array<std::string_view, 7> schrittweitentexte{"0.1", "0.5", "1.0", "2.0",
-                                                                    "3.0", "4.0", "5.0"};
+inline constexpr std::array<double, 7> zinsschritte{0.1, 0.5, 1, 2, 3, 4, 5};
+inline constexpr std::array<std::string_view, 7> zinsschritttexte{"0.1", "0.5", "1.0", "2.0",
+                                                                  "3.0", "4.0", "5.0"};
 inline constexpr std::size_t sensitivitaetszeilen = 11;
 
 /// The controls of the table, texts as typed, and what it borrows.

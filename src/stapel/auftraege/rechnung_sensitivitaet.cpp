@@ -15,7 +15,7 @@ struct Schrittweite {
 
 void FeldLesen(JsonWert& wert, Schrittweite& ziel) {
     ziel.index =
-        static_cast<std::size_t>(wert.Ganzzahl(0, static_cast<std::int64_t>(schrittweiten.size()) - 1));
+        static_cast<std::size_t>(wert.Ganzzahl(0, static_cast<std::int64_t>(zinsschritte.size()) - 1));
 }
 
 struct Sensitivitaetsauftrag {

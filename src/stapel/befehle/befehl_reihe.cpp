@@ -229,7 +229,7 @@ constexpr std::array schritte{
     Wahl{"2", std::size_t{3}},   Wahl{"3", std::size_t{4}},   Wahl{"4", std::size_t{5}},
     Wahl{"5", std::size_t{6}},
 };
-static_assert(schritte.size() == schrittweiten.size());
+static_assert(schritte.size() == zinsschritte.size());
 
 constexpr std::array termine{
     Wahl{"zahlung", Plantermine::zahlungstermine}, Wahl{"monatsende", Plantermine::monatsende},
