@@ -2,6 +2,8 @@
 
 #include <cstdint>
 #include <dlfcn.h>
+#include <filesystem>
+#include <system_error>
 
 #include "kern/dateien/programmordner.h"
 
@@ -17,10 +19,18 @@ constexpr const char* layoutname = "ZinfolioBerichtslayout";
 /// Gives 0 for success, else the reason in `fehler`.
 using Modulfunktion = int (*)(const Bericht*, const char* datei, std::string* fehler);
 
+/// Where the module lies: beside the program, or in the folder of its installation.
+std::filesystem::path Modulpfad() {
+    const std::filesystem::path ordner = Programmordner();
+    std::error_code fehler;
+    const std::filesystem::path daneben = ordner / modulname;
+    return std::filesystem::exists(daneben, fehler) ? daneben : ordner / "../lib/zinfolio" / modulname;
+}
+
 /// Null where the module is missing, or was built with another report. It stays loaded until the program
 /// ends.
 Modulfunktion ModulLaden() {
-    void* const modul = ::dlopen((Programmordner() / modulname).c_str(), RTLD_NOW | RTLD_LOCAL);
+    void* const modul = ::dlopen(Modulpfad().c_str(), RTLD_NOW | RTLD_LOCAL);
     if (modul == nullptr) return nullptr;
     const auto* const layout = static_cast<const std::uint64_t*>(::dlsym(modul, layoutname));
     if (layout == nullptr || *layout != berichtslayout) return nullptr;
