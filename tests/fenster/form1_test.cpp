@@ -86,6 +86,19 @@ class Form1Test : public QObject {
         QVERIFY(zeuge.einzelheiten[0].contains("Fiskaris"));
     }
 
+    void projektDerKommandozeileOeffnetSichInSeinemRechner() {
+        const Testordner ordner;
+        Form1 form(ordner.Pfad());
+        QVERIFY(form.ProjektOeffnen(ZINFOLIO_BEISPIELE "/konto.ZiS"));
+        QVERIFY(Rechner());
+        QVERIFY(!form.isVisible());
+        QCOMPARE(Rechner()->windowTitle(), "Zinsstaffelrechner – konto.ZiS[*]");
+        Zeuge zeuge;
+        zeuge.antwort = Antwort::nein;
+        Rechner()->close();
+        QVERIFY(!form.ProjektOeffnen("etwas.txt"));
+    }
+
     void kommandozeileEntscheidetUeberDieRueckkehr() {
         QVERIFY(KehrtZumStartZurueck(""));
         QVERIFY(KehrtZumStartZurueck("Zinfolio.exe"));

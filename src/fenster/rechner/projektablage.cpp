@@ -61,8 +61,11 @@ void Projektablage::NeuBeginnen() {
 
 void Projektablage::Oeffnen() {
     if (!DatumSteht(*Fenster()) || !AufgebenGewollt()) return;
-    if (const auto datei = DateiFragen(Fenster(), Frage(Dateifrage::Zweck::oeffnen)))
-        if (Laden(*datei, Leseanlass::oeffnen)) BefundeMelden();
+    if (const auto datei = DateiFragen(Fenster(), Frage(Dateifrage::Zweck::oeffnen))) DateiOeffnen(*datei);
+}
+
+void Projektablage::DateiOeffnen(const std::filesystem::path& datei) {
+    if (Laden(datei, Leseanlass::oeffnen)) BefundeMelden();
 }
 
 bool Projektablage::Laden(const std::filesystem::path& datei, Leseanlass anlass) {

@@ -59,6 +59,9 @@ class Projektablage : public Ablage {
     [[nodiscard]] QString Name() const override;
     [[nodiscard]] QString Ordner() const override;
 
+    /// Shows a project without asking for its name; what speaks against it is told.
+    void DateiOeffnen(const std::filesystem::path& datei);
+
   protected:
     void VorDerFrage() override;
     [[nodiscard]] bool VorDemAbschied() override;

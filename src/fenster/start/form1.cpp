@@ -1,6 +1,7 @@
 #include "fenster/start/form1.h"
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QGroupBox>
 #include <QLabel>
 #include <QMenuBar>
@@ -12,6 +13,7 @@
 #include "fenster/hilfe/hilfefenster.h"
 #include "fenster/hilfe/impressum.h"
 #include "fenster/hilfe/netzwege.h"
+#include "fenster/rechner/projektablage.h"
 #include "fenster/sparen/sparrechner.h"
 #include "fenster/staffel/form48000.h"
 #include "fenster/start/programmstart.h"
@@ -33,6 +35,8 @@ struct Rechnereintrag {
     const char* erklaerung;
     const char* symbol;
     Rechner* (*anlegen)(const std::filesystem::path& arbeitsordner) = nullptr;
+    /// The ending of its projects, empty where it has none.
+    const char* endung = "";
 };
 
 namespace {
@@ -44,11 +48,11 @@ Rechner* Anlegen(const std::filesystem::path& arbeitsordner) {
 
 constexpr std::array kontorechner{
     Rechnereintrag{"Zinsstaffelrechner", "Zinsstaffelrechner", "Zinsstaffelrechner",
-                   "Ein Konto nachrechnen, auf den Cent wie die Bank", "konto", Anlegen<Form48000>},
+                   "Ein Konto nachrechnen, auf den Cent wie die Bank", "konto", Anlegen<Form48000>, "ZiS"},
 };
 constexpr std::array reihenrechner{
     Rechnereintrag{"Effektivzinsrechner", "Effektivzinsrechner", "Effektivzinsrechner",
-                   "Rendite, Barwert, Tilgungsplan", "reihe", Anlegen<Form61000>},
+                   "Rendite, Barwert, Tilgungsplan", "reihe", Anlegen<Form61000>, "RRR"},
     Rechnereintrag{"Finanztabellen", "Finanzmathematische Tabellen", "Finanztabellen",
                    "Die sechs Faktoren als Tafel und einzeln", "tabelle", Anlegen<Form14005>},
 };
@@ -175,10 +179,11 @@ void Form1::Oeffnen(std::string_view name) {
     wirkungen_.at(name)();
 }
 
-void Form1::RechnerOeffnen(const Rechnereintrag& eintrag) {
+Rechner* Form1::RechnerOeffnen(const Rechnereintrag& eintrag) {
+    Rechner* rechner = nullptr;
     Geschuetzt(this, [&] {
         ArbeitsordnerAnlegen(arbeitsordner_);
-        Rechner* rechner = eintrag.anlegen(arbeitsordner_);
+        rechner = eintrag.anlegen(arbeitsordner_);
         rechner->setAttribute(Qt::WA_DeleteOnClose);
         rechner->setWindowIcon(windowIcon());
         connect(rechner, &Rechner::verlassen, this, &Form1::RechnerVerlassen);
@@ -186,6 +191,19 @@ void Form1::RechnerOeffnen(const Rechnereintrag& eintrag) {
         rechner->show();
         hide();
     });
+    return rechner;
+}
+
+bool Form1::ProjektOeffnen(const QString& datei) {
+    const QString endung = QFileInfo(datei).suffix();
+    for (const Rechnereintrag* eintrag : {&kontorechner[0], &reihenrechner[0]}) {
+        if (endung.compare(QString::fromUtf8(eintrag->endung), Qt::CaseInsensitive) != 0) continue;
+        Rechner* rechner = RechnerOeffnen(*eintrag);
+        if (!rechner) return false;
+        rechner->findChild<Projektablage*>()->DateiOeffnen(QFileInfo(datei).absoluteFilePath().toStdString());
+        return true;
+    }
+    return false;
 }
 
 void Form1::ImNetz(const std::function<void()>& weg) {

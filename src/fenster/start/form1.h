@@ -11,6 +11,7 @@ class QBoxLayout;
 
 namespace zinfolio {
 
+class Rechner;
 struct Rechnereintrag;
 
 /// The start screen: the menu of the calculators, and the same calculators as large buttons. Opening one
@@ -20,6 +21,10 @@ class Form1 : public QMainWindow {
 
   public:
     explicit Form1(std::filesystem::path arbeitsordner);
+
+    /// Opens a project in its calculator, which takes the place of this screen; false where the file's ending
+    /// is none of a project.
+    bool ProjektOeffnen(const QString& datei);
 
   protected:
     void closeEvent(QCloseEvent* ereignis) override;
@@ -31,7 +36,8 @@ class Form1 : public QMainWindow {
     QAction* Eintrag(QWidget& menue, const char* name, const QString& text);
     void Oeffnen(std::string_view name);
     void RechnerAnbieten(std::span<const Rechnereintrag> gruppe);
-    void RechnerOeffnen(const Rechnereintrag& eintrag);
+    /// The window of a calculator, shown; none where it could not be opened, which the user has been told.
+    Rechner* RechnerOeffnen(const Rechnereintrag& eintrag);
     void RechnerVerlassen();
     /// Goes a way into the web; a second one waits until the first has ended.
     void ImNetz(const std::function<void()>& weg);

@@ -49,6 +49,7 @@ int main(int argc, char** argv) {
     std::optional<Ordnersperre> sperre;
     if (!OrdnerBereit(ordner, sperre)) return 1;
     Form1 start(ordner);
-    start.show();
+    const QStringList argumente = QApplication::arguments().mid(1);
+    if (argumente.size() != 1 || !start.ProjektOeffnen(argumente[0])) start.show();
     return QApplication::exec();
 }
