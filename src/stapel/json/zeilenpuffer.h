@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cassert>
 #include <cstddef>
@@ -30,7 +31,7 @@ class Zeilenpuffer {
 
     void Text(std::string_view text) {
         assert(Rest() >= text.size());
-        std::memcpy(ende, text.data(), text.size());
+        std::copy_n(text.data(), text.size(), ende);
         ende += text.size();
     }
 

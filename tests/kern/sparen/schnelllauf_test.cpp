@@ -98,12 +98,14 @@ TEST(Dauerlauf, GehtAuchZurueck) {
 }
 
 TEST(Dauerlauf, VorDemAnfangIstDasKontoLeer) {
-    Dauerlauf dauerlauf(Form(Sparziel::anspardauer), Plan2007());
+    const Sparplan plan = Plan2007();
+    Dauerlauf dauerlauf(Form(Sparziel::anspardauer), plan);
     EXPECT_EQ(dauerlauf.Endstand(Datum::Lesen("31.12.2006")), 0);
 }
 
 TEST(Dauerlauf, MehrAls32767ZeilenSindEinFehler) {
-    Dauerlauf dauerlauf(Form(Sparziel::anspardauer), Plan2007());
+    const Sparplan plan = Plan2007();
+    Dauerlauf dauerlauf(Form(Sparziel::anspardauer), plan);
     EXPECT_THROW(static_cast<void>(dauerlauf.Endstand(Datum::Lesen("01.01.4800"))), std::runtime_error);
 }
 
