@@ -11,6 +11,7 @@
 
 #include "fenster/formhelfer.h"
 #include "fenster/ui/tabelle.h"
+#include "fenster/ungeduld.h"
 
 using namespace zinfolio;
 namespace fs = std::filesystem;
@@ -329,6 +330,44 @@ class Form61000Test : public QObject {
         QCOMPARE(Finde<QComboBox>(&Form(), "Combo3")->currentIndex(), 0);
         WaehleIn("Combo4", 0);
         QCOMPARE(Text("effzinssatz"), "12,51869 %");
+    }
+
+    void langePlansucheLaeuftNebenDemFenster() {
+        const Ungeduld ungeduld;
+        Leihe();
+        Betritt(plan);
+        QVERIFY(Sichtbar("Suchzeile"));
+        QVERIFY(!Finde<QWidget>(&Form(), "Command19")->isEnabled());
+        QTRY_COMPARE(Text("nomzins"), "11,84700 %");
+        QVERIFY(!Sichtbar("Suchzeile"));
+        WaehleIn("Combo6", 3);
+        QTRY_COMPARE(Text("nomzins"), "12,01121 %");
+        QCOMPARE(Gewaehlt(), static_cast<int>(plan));
+    }
+
+    void abgebrochenePlansucheFuehrtZurueck() {
+        const Ungeduld ungeduld;
+        Leihe();
+        Betritt(plan);
+        Druecke(Qt::Key_Escape);
+        QCOMPARE(Gewaehlt(), static_cast<int>(zahlungen));
+        QTest::qWait(100);
+        QCOMPARE(Text("nomzins"), "");
+        QVERIFY(!fs::exists(stand_->arbeit.Pfad() / "Lösungstableau5R"));
+    }
+
+    void neueZahlungenGebenDiePlansucheAuf() {
+        const Ungeduld ungeduld;
+        Leihe();
+        Betritt(plan);
+        Betritt(zahlungen);
+        Zahle("15.05.2007", "-1");
+        QTest::qWait(100);
+        QVERIFY(!fs::exists(stand_->arbeit.Pfad() / "Lösungstableau5R"));
+        Betritt(plan);
+        QTRY_VERIFY(!Text("nomzins").isEmpty());
+        QVERIFY(Text("nomzins") != "11,84700 %");
+        QCOMPARE(Zeile(Form(), "grid5", 0).left(10), "15.05.2007");
     }
 
     void planInEineRichtungBleibtAufDemRegisterDavor() {

@@ -10,6 +10,7 @@
 #include "fenster/allround/werteseite.h"
 #include "fenster/rechner/registernotizen.h"
 #include "fenster/rechner/registerzahlungen.h"
+#include "fenster/rechner/suchzeile.h"
 #include "fenster/ui/bausteine.h"
 #include "kern/allround/diagramme.h"
 #include "kern/allround/reihenprojekt.h"
@@ -153,7 +154,11 @@ void Form61000::NotizseiteAnlegen() {
 }
 
 void Form61000::Verdrahten() {
-    connect(zahlungen_, &RegisterZahlungen::geaendert, this, [this] { Geaendert(); });
+    connect(zahlungen_, &RegisterZahlungen::geaendert, this, [this] {
+        plan_->Suche().Aufgeben();
+        Geaendert();
+    });
+    connect(&plan_->Suche(), &Suchzeile::abgebrochen, this, &Form61000::PlanAbbrechen);
     connect(notizen_, &RegisterNotizen::inhaltGeaendert, this, [this] { Geaendert(); });
     connect(reihenzins_, &RegisterReihenzins::methodeGewaehlt, this, &Form61000::EffektivzinsRechnen);
     connect(reihenzins_, &RegisterReihenzins::druckenVerlangt, this,
@@ -208,8 +213,12 @@ void Form61000::Laden(const std::filesystem::path& datei, Leseanlass anlass) {
     Reihenprojekt projekt = ReihenprojektLesen(datei);
     befunde_ = projekt.befunde;
     ReihenprojektUebernehmen(dateien_.Ordner(), projekt);
+    if (anlass == Leseanlass::wiederladen) {
+        zahlungen_->Auffrischen();
+        return notizen_->Wiederladen(std::move(projekt.notizen));
+    }
+    plan_->Suche().Aufgeben();
     zahlungen_->KontoWechseln();
-    if (anlass == Leseanlass::wiederladen) return notizen_->Wiederladen(std::move(projekt.notizen));
     werte_->Leeren();
     notizen_->Oeffnen(std::move(projekt.notizen));
 }

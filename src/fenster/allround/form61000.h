@@ -46,10 +46,12 @@ class Form61000 : public Rechner {
     void JahreswerteZeigen();
     void SensitivitaetZeigen();
     void SensitivitaetRechnen();
-    /// Goes back to the tab before where there is no plan.
     void PlanBetreten();
     void PlanRechnen();
-    [[nodiscard]] bool PlanVersuchen(const Rechenschritt& schritt);
+    /// Runs a step of the plan; true where it came to its end. A fault ends it without a word; after a
+    /// refusal the tab before is shown again.
+    bool PlanSchritt(const Rechenschritt& schritt);
+    void PlanAbbrechen();
     void PlanansichtWaehlen();
 
     [[nodiscard]] Bericht Effektivzinsbericht() const;

@@ -5,6 +5,7 @@
 #include <QTextCursor>
 #include <QTextEdit>
 #include <QVBoxLayout>
+#include <memory>
 
 #include "fenster/allround/einstellungsseite.h"
 #include "fenster/allround/form61000.h"
@@ -15,9 +16,11 @@
 #include "fenster/allround/werteseite.h"
 #include "fenster/rechner/registernotizen.h"
 #include "fenster/rechner/registerzahlungen.h"
+#include "fenster/rechner/suchzeile.h"
 #include "kern/allround/ansichten.h"
 #include "kern/allround/jahreswerte.h"
 #include "kern/allround/stillrechnen.h"
+#include "kern/allround/tilgungsplan.h"
 #include "kern/bericht/notizbericht.h"
 #include "kern/staffel/herleitungsbericht.h"
 
@@ -54,7 +57,7 @@ void Form61000::Analysieren() {
     werte_->EingabeZeigen(eingabe);
     stand_.Uebernehmen(std::move(ergebnis));
     werte_->Zeigen(stand_.Werte);
-    zahlungen_->NeuSchreiben();
+    zahlungen_->Auffrischen();
 }
 
 void Form61000::JahreswerteZeigen() {
@@ -102,33 +105,61 @@ void Form61000::SensitivitaetRechnen() {
 }
 
 void Form61000::PlanBetreten() {
-    const bool gezeigt = PlanVersuchen([this] { return dateien_.ReiheSchreibenR(); });
-    zahlungen_->NeuSchreiben();
-    if (!gezeigt) return RegisterZeigen(letztesRegister_);
-    letztesRegister_ = plan_;
+    if (plan_->Suche().Laeuft()) return;
+    const bool geschrieben = PlanSchritt([this] { return dateien_.ReiheSchreibenR(); });
+    zahlungen_->Auffrischen();
+    if (geschrieben) PlanRechnen();
 }
 
 void Form61000::PlanRechnen() {
-    (void)PlanVersuchen([] { return std::nullopt; });
-}
-
-bool Form61000::PlanVersuchen(const Rechenschritt& vorher) {
-    const bool gelungen = Ausfuehren([&]() -> std::optional<Ablehnung> {
-        Tilgungsplan plan;
-        auto ablehnung = StillRechnen([&] {
-            auto vorab = vorher();
-            return vorab ? vorab : dateien_.TilgungsplanRechnen(plan_->Eingabe(), plan);
-        });
-        if (ablehnung) {
-            plan_->VeraltetZeigen();
-            return ablehnung->Meldung.empty() ? std::nullopt : ablehnung;
-        }
-        stand_.Uebernehmen(std::move(plan));
-        stand_.Anzeigeart = Anzeigeart::planJahresweise;
-        plan_->PlanZeigen(stand_);
+    struct Planrechnung {
+        Planeingabe eingabe;
+        std::vector<Reihensatz> reihe{};
+        Tilgungsplan plan{};
+        std::optional<Ablehnung> ablehnung{};
+    };
+    auto rechnung = std::make_shared<Planrechnung>(Planrechnung{plan_->Eingabe()});
+    const bool gelesen = PlanSchritt([&] {
+        rechnung->reihe = dateien_.PlanreiheLesen();
         return std::nullopt;
     });
-    return gelungen;
+    if (!gelesen) return;
+    plan_->Warten();
+    plan_->Suche().Rechnen(
+        [rechnung](const Suchbeobachter& beobachter) {
+            rechnung->ablehnung =
+                TilgungsplanRechnen(rechnung->reihe, rechnung->eingabe, rechnung->plan, beobachter);
+        },
+        [this, rechnung](const std::exception_ptr& fehler) {
+            PlanSchritt([&]() -> std::optional<Ablehnung> {
+                dateien_.PlanAblegen(rechnung->plan);
+                if (fehler) std::rethrow_exception(fehler);
+                if (rechnung->ablehnung) return rechnung->ablehnung;
+                letztesRegister_ = plan_;
+                stand_.Uebernehmen(std::move(rechnung->plan));
+                stand_.Anzeigeart = Anzeigeart::planJahresweise;
+                plan_->PlanZeigen(stand_);
+                return std::nullopt;
+            });
+        });
+}
+
+bool Form61000::PlanSchritt(const Rechenschritt& schritt) {
+    bool ohneWorte = false;
+    const bool ohneMeldung = Ausfuehren([&] {
+        auto ablehnung = StillRechnen(schritt);
+        ohneWorte = ablehnung && ablehnung->Meldung.empty();
+        if (ablehnung) plan_->VeraltetZeigen();
+        return ohneWorte ? std::nullopt : ablehnung;
+    });
+    if (ohneWorte) letztesRegister_ = plan_;
+    if (!ohneMeldung) RegisterZeigen(letztesRegister_);
+    return ohneMeldung && !ohneWorte;
+}
+
+void Form61000::PlanAbbrechen() {
+    plan_->VeraltetZeigen("Die Berechnung des Plans wurde abgebrochen.");
+    RegisterZeigen(letztesRegister_);
 }
 
 void Form61000::PlanansichtWaehlen() {

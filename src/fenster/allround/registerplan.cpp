@@ -6,10 +6,12 @@
 #include <QVBoxLayout>
 
 #include "fenster/allround/eingabezeile.h"
+#include "fenster/rechner/suchzeile.h"
 #include "fenster/ui/bausteine.h"
 #include "fenster/ui/meldungsfenster.h"
 #include "fenster/ui/tabelle.h"
 #include "kern/allround/ansichten.h"
+#include "kern/allround/nominalsuche.h"
 
 namespace zinfolio {
 
@@ -20,7 +22,8 @@ RegisterPlan::RegisterPlan(QWidget* eltern)
       Combo3_(NeueAuswahl("Combo3", planansichten, this)),
       nomzins_(NeueKennzahl("nomzins", this)),
       effzinssatz_(NeueKennzahl("effzinssatz", this)),
-      hinweis_(new QLabel("Für diese Zahlungen ließ sich kein Plan rechnen.", this)),
+      hinweis_(new QLabel(this)),
+      suche_(new Suchzeile("Der Nominalzins wird gesucht …", hoechstrundenNominalsuche, this)),
       Command19_(NeueTaste("Command19", "Dru&cken", this, [this] { emit druckenVerlangt(); })),
       Command20_(NeueTaste("Command20", "&Grafik", this, [this] { emit grafikVerlangt(); })),
       grid5_(new Tabelle("grid5", this)) {
@@ -31,6 +34,7 @@ RegisterPlan::RegisterPlan(QWidget* eltern)
     auto* anordnung = new QVBoxLayout(this);
     anordnung->addWidget(Kopf());
     anordnung->addWidget(hinweis_);
+    anordnung->addWidget(suche_);
     anordnung->addWidget(Seite(grid5_, {Command20_, Command19_}), 1);
     connect(Combo4_, &QComboBox::currentIndexChanged, this, [this] { emit eingabeGeaendert(); });
     connect(Combo6_, &QComboBox::currentIndexChanged, this, [this] { emit eingabeGeaendert(); });
@@ -85,8 +89,14 @@ void RegisterPlan::AnsichtZeigen(const Allroundstand& stand) {
     grid5_->Zeige(PlanansichtBilden(Plantabelle(stand.Plan, Ansicht()), Ansicht()));
 }
 
-void RegisterPlan::VeraltetZeigen() {
+void RegisterPlan::VeraltetZeigen(const QString& grund) {
+    hinweis_->setText(grund);
     hinweis_->show();
+    TastenFreigeben(false);
+}
+
+void RegisterPlan::Warten() {
+    hinweis_->hide();
     TastenFreigeben(false);
 }
 
@@ -96,6 +106,7 @@ void RegisterPlan::TastenFreigeben(bool frei) {
 }
 
 void RegisterPlan::Leeren() {
+    suche_->Aufgeben();
     nomzins_->clear();
     effzinssatz_->clear();
     hinweis_->hide();

@@ -10,6 +10,7 @@ class QPushButton;
 
 namespace zinfolio {
 
+class Suchzeile;
 class Tabelle;
 
 /// The tab "Zins-/Tilgungsplan": the nominal rate of the series and its statement, by year or row by row.
@@ -29,8 +30,13 @@ class RegisterPlan : public QWidget {
     /// Shows it in the view that is chosen.
     void AnsichtZeigen(const Allroundstand& stand);
     /// What is shown belongs to another calculation, since the last one did not come to its end.
-    void VeraltetZeigen();
+    void VeraltetZeigen(const QString& grund = "Für diese Zahlungen ließ sich kein Plan rechnen.");
+    /// What is shown belongs to another calculation: the next one is under way.
+    void Warten();
     void Leeren();
+
+    /// The search for the nominal rate.
+    [[nodiscard]] Suchzeile& Suche() { return *suche_; }
 
   signals:
     void eingabeGeaendert();
@@ -48,6 +54,7 @@ class RegisterPlan : public QWidget {
     QLabel* nomzins_;
     QLabel* effzinssatz_;
     QLabel* hinweis_;
+    Suchzeile* suche_;
     QPushButton* Command19_;
     QPushButton* Command20_;
     Tabelle* grid5_;

@@ -1,11 +1,13 @@
 #include "fenster/sparen/sparrechner.h"
 
+#include <QBoxLayout>
 #include <algorithm>
+#include <memory>
 
 #include "fenster/ausgabe/form34.h"
-#include "fenster/ausgabe/fortschrittsfenster.h"
 #include "fenster/rechner/registerberechnung.h"
 #include "fenster/rechner/registernotizen.h"
+#include "fenster/rechner/suchzeile.h"
 #include "fenster/sparen/sparfelder.h"
 #include "fenster/sparen/zinstabellenseite.h"
 #include "fenster/tabellen/kurzfenster.h"
@@ -39,7 +41,24 @@ std::string Loesungstext(Sparziel ziel, const Sparergebnis& ergebnis) {
     return ziel == Sparziel::anspardauer ? ergebnis.Enddatum : Format(ergebnis.loesung, betragsmuster);
 }
 
+/// The line of a search, above the table of the statement.
+Suchzeile* NeueSuchzeile(QWidget* auszug) {
+    auto* zeile = new Suchzeile("Die Lösung wird gesucht …", hoechstzahlRunden, auszug);
+    auto* anordnung = static_cast<QBoxLayout*>(auszug->layout());
+    anordnung->insertWidget(anordnung->count() - 1, zeile);
+    return zeile;
+}
+
 }  // namespace
+
+/// A plan under calculation: what was asked, and what becomes of it.
+struct Sparrechnung {
+    Sparplan gefragt;
+    Sparplan plan;
+    Sparstand stand;
+    Sparergebnis ergebnis{};
+    std::optional<Ablehnung> ablehnung{};
+};
 
 Sparrechner::Sparrechner(const Sparform& form, const std::filesystem::path& arbeitsordner)
     : Rechner(Art(form), arbeitsordner),
@@ -48,6 +67,7 @@ Sparrechner::Sparrechner(const Sparform& form, const std::filesystem::path& arbe
       dateien_(form, arbeitsordner),
       felder_(new Sparfelder(form, this)),
       auszug_(NeuerAuszug()),
+      suche_(NeueSuchzeile(auszug_)),
       notizen_(new RegisterNotizen("RT", this)) {
     if (form.zinstabelle) {
         zinstabelle_ = new Zinstabellenseite(this);
@@ -135,11 +155,14 @@ Planindex Sparrechner::Index(const Planverzeichnis& plaene) {
 }
 
 void Sparrechner::Verdrahten() {
-    connect(felder_, &Sparfelder::geaendert, this, [this] { Geaendert(); });
+    connect(felder_, &Sparfelder::geaendert, this, [this] { EingabeGeaendert(); });
+    connect(suche_, &Suchzeile::abgebrochen, this, [this] { RegisterZeigen(felder_); });
     connect(felder_, &Sparfelder::berechnenVerlangt, this, [this] { RegisterWaehlen(auszug_); });
     connect(auszug_, &RegisterBerechnung::effektivzinsVerlangt, this, &Sparrechner::EffzinsBerechnen);
     connect(auszug_, &RegisterBerechnung::methodeGewaehlt, this, [this] {
-        Geaendert();
+        const bool gesucht = suche_->Laeuft();
+        EingabeGeaendert();
+        if (gesucht) return Berechnen();
         // One form waits for its button.
         if (effzinsGezeigt_ && form_.dynamik != Dynamik::einfach) EffzinsBerechnen();
     });
@@ -152,7 +175,7 @@ void Sparrechner::Verdrahten() {
         SeiteZeigen(zinstabelle_);
         zinstabelle_->Fokussieren(Zinszeilenname(0, Zinsspalte::datum));
     });
-    connect(zinstabelle_, &Zinstabellenseite::geaendert, this, [this] { Geaendert(); });
+    connect(zinstabelle_, &Zinstabellenseite::geaendert, this, [this] { EingabeGeaendert(); });
     connect(zinstabelle_, &Zinstabellenseite::markiert, felder_, &Sparfelder::MarkeZeigen);
     connect(zinstabelle_, &Zinstabellenseite::zurueck, this, [this] { RegisterZeigen(felder_); });
 }
@@ -184,41 +207,41 @@ void Sparrechner::Speicherung(int nummer) {
     dateien_.Speichern(static_cast<std::size_t>(nummer), Lesen(), notizen_->AlsDatei());
 }
 
-void Sparrechner::Berechnen() {
-    std::optional<Ablehnung> inTabelle;
-    Rechnen([&] {
-        auto ablehnung = PlanRechnen();
-        // A refusal that selects no tab belongs to the table of rate changes.
-        if (!ablehnung || !ablehnung->Register.empty()) return ablehnung;
-        inTabelle = std::move(ablehnung);
-        return std::optional<Ablehnung>();
-    });
-    if (inTabelle) InTabelleAblehnen(*inTabelle);
+/// What is being searched for is not what the fields ask any more.
+void Sparrechner::EingabeGeaendert() {
+    suche_->Aufgeben();
+    Geaendert();
 }
 
-std::optional<Ablehnung> Sparrechner::PlanRechnen() {
-    Sparplan plan = Lesen();
-    Sparergebnis ergebnis;
+void Sparrechner::Berechnen() {
+    if (suche_->Laeuft()) return;
     ErgebnisLeeren();
-    Fortschrittsfenster fenster(this, "Die Lösung wird gesucht …", Fortschrittsfenster::Abbruch::moeglich,
-                                "Berechnung");
-    const Suchbeobachter beobachter = [zuhoerer = fenster.Zuhoerer()](std::size_t durchlaeufe) {
-        constexpr std::size_t hoechstens = hoechstzahlRunden;
-        return zuhoerer(std::min(durchlaeufe, hoechstens), hoechstens);
-    };
-    std::optional<Ablehnung> ablehnung;
-    try {
-        ablehnung = SparplanRechnen(ordner_, form_, plan, stand_, ergebnis, beobachter);
-    } catch (const RechnungAbgebrochen&) {
-        RegisterZeigen(felder_);
+    const Sparplan gefragt = Lesen();
+    auto rechnung = std::make_shared<Sparrechnung>(Sparrechnung{gefragt, gefragt, stand_});
+    suche_->Rechnen(
+        [rechnung, &form = form_](const Suchbeobachter& beobachter) {
+            rechnung->ablehnung =
+                SparplanRechnen(form, rechnung->plan, rechnung->stand, rechnung->ergebnis, beobachter);
+        },
+        [this, rechnung](const std::exception_ptr& fehler) { Abschliessen(*rechnung, fehler); });
+}
+
+void Sparrechner::Abschliessen(Sparrechnung& rechnung, const std::exception_ptr& fehler) {
+    // The table of rate changes may have ordered itself in the meantime.
+    if (Lesen() != rechnung.gefragt) return Berechnen();
+    std::optional<Ablehnung> inTabelle;
+    Rechnen([&]() -> std::optional<Ablehnung> {
+        stand_ = rechnung.stand;
+        Zeigen(rechnung.plan);
+        SparergebnisAblegen(ordner_, form_, rechnung.ergebnis);
+        if (fehler) std::rethrow_exception(fehler);
+        if (!rechnung.ablehnung) ErgebnisZeigen(rechnung.plan, std::move(rechnung.ergebnis));
+        // A refusal that selects no tab belongs to the table of rate changes.
+        if (!rechnung.ablehnung || !rechnung.ablehnung->Register.empty()) return rechnung.ablehnung;
+        inTabelle = rechnung.ablehnung;
         return std::nullopt;
-    } catch (...) {
-        Zeigen(plan);
-        throw;
-    }
-    Zeigen(plan);
-    if (!ablehnung) ErgebnisZeigen(plan, std::move(ergebnis));
-    return ablehnung;
+    });
+    if (inTabelle) InTabelleAblehnen(*inTabelle);
 }
 
 void Sparrechner::ErgebnisZeigen(const Sparplan& plan, Sparergebnis ergebnis) {
@@ -238,6 +261,7 @@ void Sparrechner::EffzinsZeigen(const Sparplan& plan) {
 }
 
 void Sparrechner::ErgebnisLeeren() {
+    suche_->Aufgeben();
     effzinsGezeigt_ = false;
     auszug_->Leeren();
     auszug_->EffektivzinsVerbergen();

@@ -11,7 +11,9 @@ namespace zinfolio {
 class RegisterBerechnung;
 class RegisterNotizen;
 class Sparfelder;
+class Suchzeile;
 class Zinstabellenseite;
+struct Sparrechnung;
 
 /// The window of a savings calculator, whichever: the fields of a plan on the first tab, its result on the
 /// second, its notes on the third, the short calculator behind the fourth. Selecting the second tab
@@ -37,8 +39,10 @@ class Sparrechner : public Rechner {
     void PlanLaden(int nummer);
     void Speicherung(int nummer);
 
+    void EingabeGeaendert();
     void Berechnen();
-    [[nodiscard]] std::optional<Ablehnung> PlanRechnen();
+    /// Shows what became of a calculation.
+    void Abschliessen(Sparrechnung& rechnung, const std::exception_ptr& fehler);
     void ErgebnisZeigen(const Sparplan& plan, Sparergebnis ergebnis);
     void EffzinsZeigen(const Sparplan& plan);
     void ErgebnisLeeren();
@@ -58,6 +62,7 @@ class Sparrechner : public Rechner {
     bool effzinsGezeigt_ = false;
     Sparfelder* felder_;
     RegisterBerechnung* auszug_;
+    Suchzeile* suche_;
     RegisterNotizen* notizen_;
     /// None where the rate of a plan never changes.
     Zinstabellenseite* zinstabelle_ = nullptr;

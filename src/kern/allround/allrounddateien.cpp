@@ -100,17 +100,12 @@ std::optional<Ablehnung> Allrounddateien::ReiheSchreibenR() const {
         [&] { planreihe_.Schreiben(reihe); });
 }
 
-std::optional<Ablehnung> Allrounddateien::TilgungsplanRechnen(const Planeingabe& eingabe,
-                                                              Tilgungsplan& plan) const {
-    const std::vector<Reihensatz> reihe = planreihe_.Lesen();
-    return RechnenUndAblegen([&] { return zinfolio::TilgungsplanRechnen(reihe, eingabe, plan); },
-                             [&] {
-                                 const auto ablegen = [&](std::string_view name, const auto& saetze) {
-                                     if (saetze) Satzdatei<Staffelsatz>(ordner_, name).Schreiben(*saetze);
-                                 };
-                                 ablegen("Lösungstableau5R", plan.Tableau);
-                                 ablegen("Kurztableau5R", plan.Kurztableau);
-                             });
+void Allrounddateien::PlanAblegen(const Tilgungsplan& plan) const {
+    const auto ablegen = [&](std::string_view name, const auto& saetze) {
+        if (saetze) Satzdatei<Staffelsatz>(ordner_, name).Schreiben(*saetze);
+    };
+    ablegen("Lösungstableau5R", plan.Tableau);
+    ablegen("Kurztableau5R", plan.Kurztableau);
 }
 
 std::string Allrounddateien::VorgabezinsLesen() const {

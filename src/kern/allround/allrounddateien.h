@@ -38,9 +38,10 @@ class Allrounddateien {
     /// Sorts the payments and leaves them as `LösungszahlungsreiheR`. Refuses a series in one direction.
     [[nodiscard]] std::optional<Ablehnung> ReiheSchreibenR() const;
 
-    /// Calculates the plan of that file. Leaves `Lösungstableau5R` and `Kurztableau5R`, as far as it came.
-    [[nodiscard]] std::optional<Ablehnung> TilgungsplanRechnen(const Planeingabe& eingabe,
-                                                               Tilgungsplan& plan) const;
+    /// The rows of that file, of which a plan is calculated.
+    [[nodiscard]] std::vector<Reihensatz> PlanreiheLesen() const { return planreihe_.Lesen(); }
+    /// Leaves `Lösungstableau5R` and `Kurztableau5R` of a plan, as far as it came.
+    void PlanAblegen(const Tilgungsplan& plan) const;
 
     /// The default rate as typed; "10" where none is stored, or nothing that can be read. Of
     /// `Allrounddatenallgemein`.

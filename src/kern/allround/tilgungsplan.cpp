@@ -55,7 +55,7 @@ Staffelsatz Kurzsatz(const Staffelsatz& letzter, const Jahressummen& summen) {
 }  // namespace
 
 std::optional<Ablehnung> TilgungsplanRechnen(std::span<const Reihensatz> reihe, const Planeingabe& eingabe,
-                                             Tilgungsplan& plan) {
+                                             Tilgungsplan& plan, const Suchbeobachter& beobachter) {
     plan = {};
     if (reihe.empty()) return OhneZahlungen(meldung::erstZahlungen);
     const auto ersterTermin = ErsterPlantermin(DatumVon(reihe.front()), eingabe.Combo4);
@@ -64,8 +64,11 @@ std::optional<Ablehnung> TilgungsplanRechnen(std::span<const Reihensatz> reihe, 
     const double effektivzins = Zahlwert(effektivergebnis);
     auto& tableau = plan.Tableau.emplace();
     PlanzeilenErzeugen(reihe, eingabe.Combo4, ersterTermin, effektivzins, tableau);
-    const auto nominalzins = NominalzinsSuchen(
-        effektivzins, [&](double zinssatz) { return Durchlauf(tableau, zinssatz, eingabe.Combo6); });
+    std::size_t runden = 0;
+    const auto nominalzins = NominalzinsSuchen(effektivzins, [&](double zinssatz) {
+        if (beobachter && !beobachter(runden++)) throw RechnungAbgebrochen();
+        return Durchlauf(tableau, zinssatz, eingabe.Combo6);
+    });
     if (!nominalzins) return Ablehnung{std::string(meldung::keinTilgungsplan), "", ""};
     plan.Nominalzins = *nominalzins;
     plan.nomzins = Zinstext(*nominalzins);

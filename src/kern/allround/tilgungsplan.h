@@ -10,6 +10,7 @@
 #include "kern/allround/planzeilen.h"
 #include "kern/dates/verzinsungsmethode.h"
 #include "kern/finmath/reihensatz.h"
+#include "kern/grund/suchbeobachter.h"
 #include "kern/staffel/staffelsatz.h"
 
 namespace zinfolio {
@@ -36,9 +37,10 @@ struct Tilgungsplan {
 /// Finds the nominal rate and calculates the plan. Refuses an empty series, one without an effective rate by
 /// PAngV2000, and a search that does not end. A fault (a date beyond the calendar, too many rows, equal
 /// balances at the start of the search, an overflow) is an exception; what was finished by then stands in
-/// `plan`.
+/// `plan`. `beobachter` hears the rounds of the search.
 [[nodiscard]] std::optional<Ablehnung> TilgungsplanRechnen(std::span<const Reihensatz> reihe,
-                                                           const Planeingabe& eingabe, Tilgungsplan& plan);
+                                                           const Planeingabe& eingabe, Tilgungsplan& plan,
+                                                           const Suchbeobachter& beobachter = {});
 
 /// The rows of a calculated plan by calendar year, in fields that mean something else there: `Satzdatum` of
 /// the year's last row, `Zahlbetrag` what was paid in (positive), `Guthabenlinie` what was paid out,

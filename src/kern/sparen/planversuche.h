@@ -2,23 +2,13 @@
 // The passes of a search: quick while it runs, whole at its end.
 
 #include <cstddef>
-#include <functional>
 #include <optional>
-#include <stdexcept>
 #include <utility>
 
+#include "kern/grund/suchbeobachter.h"
 #include "kern/sparen/planlauf.h"
 
 namespace zinfolio {
-
-/// Hears how many passes a calculation has made. Returning false stops it. Empty: nobody listens.
-using Suchbeobachter = std::function<bool(std::size_t durchlaeufe)>;
-
-/// A calculation that its observer has stopped; nothing of it counts.
-class RechnungAbgebrochen : public std::runtime_error {
-  public:
-    RechnungAbgebrochen() : std::runtime_error("Die Berechnung wurde abgebrochen.") {}
-};
 
 /// Counts the passes of a plan, and knows the two latest: what they leave in the working files decides what
 /// stands there after a search, also after one that a fault has ended.

@@ -15,22 +15,6 @@ void Ablegen(const std::filesystem::path& ordner, std::string_view name,
 
 }  // namespace
 
-std::optional<Ablehnung> SparplanRechnen(const std::filesystem::path& ordner, const Sparform& form,
-                                         Sparplan& plan, Sparstand& stand, Sparergebnis& ergebnis,
-                                         const Suchbeobachter& beobachter) {
-    std::optional<Ablehnung> ablehnung;
-    try {
-        ablehnung = SparplanRechnen(form, plan, stand, ergebnis, beobachter);
-    } catch (const RechnungAbgebrochen&) {
-        throw;
-    } catch (...) {
-        SparergebnisAblegen(ordner, form, ergebnis);
-        throw;
-    }
-    SparergebnisAblegen(ordner, form, ergebnis);
-    return ablehnung;
-}
-
 void SparergebnisAblegen(const std::filesystem::path& ordner, const Sparform& form,
                          const Sparergebnis& ergebnis) {
     Ablegen(ordner, form.laufdateien.zahlungen, ergebnis.lauf.zahlungen);

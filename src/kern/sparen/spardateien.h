@@ -6,15 +6,8 @@
 
 namespace zinfolio {
 
-/// `SparplanRechnen`, and then leaves in the folder what the calculation leaves in its working files, also
-/// where a refusal or a fault ended it. Nothing is written where it was stopped.
-[[nodiscard]] std::optional<Ablehnung> SparplanRechnen(const std::filesystem::path& ordner,
-                                                       const Sparform& form, Sparplan& plan, Sparstand& stand,
-                                                       Sparergebnis& ergebnis,
-                                                       const Suchbeobachter& beobachter = {});
-
-/// Leaves in a folder what a calculation of the form leaves in its working files, as far as it came. A
-/// `Dateifehler` where the folder cannot be written.
+/// Leaves in a folder what a calculation of the form leaves in its working files, as far as it came: also
+/// where a refusal or a fault ended it. A `Dateifehler` where the folder cannot be written.
 void SparergebnisAblegen(const std::filesystem::path& ordner, const Sparform& form,
                          const Sparergebnis& ergebnis);
 

@@ -3,6 +3,7 @@
 #include "kern/finmath/herleitung.h"
 #include "kern/finmath/reiheauswerten.h"
 #include "kern/sparen/planpruefen.h"
+#include "kern/sparen/planversuche.h"
 #include "kern/sparen/spargang.h"
 #include "kern/sparen/zinstabelle.h"
 #include "kern/staffel/reiheausloesung.h"

@@ -9,8 +9,8 @@
 #include "kern/finmath/effektivmethode.h"
 #include "kern/finmath/reihensatz.h"
 #include "kern/grund/ablehnung.h"
+#include "kern/grund/suchbeobachter.h"
 #include "kern/sparen/planlauf.h"
-#include "kern/sparen/planversuche.h"
 #include "kern/staffel/kontoansicht.h"
 
 namespace zinfolio {

@@ -9,6 +9,7 @@
 #include <QPushButton>
 
 #include "fenster/formhelfer.h"
+#include "fenster/ungeduld.h"
 
 using namespace zinfolio;
 
@@ -249,6 +250,104 @@ class SparrechnerTest : public QObject {
         Waehle(*stand.form, daten);
         Waehle(*stand.form, berechnen);
         QCOMPARE(Combo6->currentIndex(), 0);
+    }
+
+    void langeSucheLaeuftNebenDemFenster() {
+        const Ungeduld ungeduld;
+        Pruefstand<Form94000> stand;
+        FuellePlan2007(*stand.form);
+        Fuelle(*stand.form, "Vwert", "2146,32");
+        Waehle(*stand.form, berechnen);
+        QVERIFY(Finde<QWidget>(stand.form.get(), "Suchzeile")->isVisible());
+        QCOMPARE(Text(*stand.form, "EV"), "");
+        QVERIFY(!Finde<QPushButton>(stand.form.get(), "Command8")->isEnabled());
+        QTRY_COMPARE(Text(*stand.form, "EV"), "2.146,32");
+        QVERIFY(!Finde<QWidget>(stand.form.get(), "Suchzeile")->isVisible());
+        QVERIFY(std::filesystem::exists(stand.arbeit.Pfad() / "Lösungsdatei"));
+    }
+
+    void abgebrocheneSucheLaesstDieAngabenStehen() {
+        const Ungeduld ungeduld;
+        Pruefstand<Form94000> stand;
+        FuellePlan2007(*stand.form);
+        Waehle(*stand.form, berechnen);
+        QCOMPARE(Fokus(), "Abbrechen");
+        Druecke(Qt::Key_Space);
+        QCOMPARE(Gewaehlt(*stand.form), int(daten));
+        // Not even the zero that the check would put in.
+        QCOMPARE(Finde<QLineEdit>(stand.form.get(), "Vwert")->text(), "");
+        QTest::qWait(100);
+        QVERIFY(!std::filesystem::exists(stand.arbeit.Pfad() / "Lösungsdatei"));
+        QCOMPARE(Text(*stand.form, "EV"), "");
+    }
+
+    void eineAendrungGibtDieSucheAuf() {
+        const Ungeduld ungeduld;
+        Pruefstand<Form94000> stand;
+        FuellePlan2007(*stand.form);
+        Fuelle(*stand.form, "Vwert", "2146,32");
+        Waehle(*stand.form, berechnen);
+        Waehle(*stand.form, daten);
+        Fuelle(*stand.form, "Vwert", "5000");
+        QTest::qWait(100);
+        Waehle(*stand.form, berechnen);
+        // A rate in whole cents meets it up to what a cent grows to in eleven payments.
+        QTRY_VERIFY(Text(*stand.form, "EV").startsWith("5.000,0") ||
+                    Text(*stand.form, "EV").startsWith("4.999,9"));
+    }
+
+    void einAndererPlanBekommtDasErgebnisNicht() {
+        const Ungeduld ungeduld;
+        Pruefstand<Form94000> stand;
+        FuellePlan2007(*stand.form);
+        Fuelle(*stand.form, "Vwert", "2146,32");
+        Waehle(*stand.form, berechnen);
+        auto* Combo3 = Finde<QComboBox>(stand.form.get(), "Combo3");
+        Combo3->setCurrentIndex(4);
+        emit Combo3->activated(4);
+        QTest::qWait(100);
+        QCOMPARE(Finde<QLineEdit>(stand.form.get(), "Vwert")->text(), "");
+        QCOMPARE(Text(*stand.form, "EV"), "");
+        QVERIFY(!std::filesystem::exists(stand.arbeit.Pfad() / "Lösungsdatei"));
+    }
+
+    void dasErgebnisWartetAufSeinRegister() {
+        const Ungeduld ungeduld;
+        Pruefstand<Form94000> stand;
+        FuellePlan2007(*stand.form);
+        Fuelle(*stand.form, "Vwert", "2146,32");
+        Waehle(*stand.form, berechnen);
+        Waehle(*stand.form, notizen);
+        QTest::qWait(100);
+        QCOMPARE(Gewaehlt(*stand.form), int(notizen));
+        QCOMPARE(Text(*stand.form, "EV"), "");
+        Waehle(*stand.form, berechnen);
+        QTRY_COMPARE(Text(*stand.form, "EV"), "2.146,32");
+    }
+
+    void ablehnungEinerLangenSucheFuehrtInDasFeld() {
+        const Ungeduld ungeduld;
+        Pruefstand<Form94000> stand;
+        FuellePlan2007(*stand.form);
+        Fuelle(*stand.form, "Zins", "");
+        const Zeuge zeuge;
+        Waehle(*stand.form, berechnen);
+        QTRY_COMPARE(zeuge.texte, QStringList{"Bitte den Zinssatz eingeben"});
+        QCOMPARE(Fokus(), "Zins");
+    }
+
+    void verlassenWaehrendDerSuche() {
+        const Ungeduld ungeduld;
+        Pruefstand<Form94000> stand;
+        FuellePlan2007(*stand.form);
+        Fuelle(*stand.form, "Vwert", "2146,32");
+        Waehle(*stand.form, berechnen);
+        const Zeuge zeuge{Antwort::nein};
+        stand.form->close();
+        QVERIFY(!stand.form->isVisible());
+        stand.form.reset();
+        QTest::qWait(100);
+        QCOMPARE(zeuge.texte, QStringList{"Speichern ?"});
     }
 };
 

@@ -95,7 +95,9 @@ TEST_F(Allrounddateientest, PlanHinterlaesstTableauUndKurztableau) {
     EXPECT_EQ(Groesse("LösungszahlungsreiheR"), 2 * reihensatz);
     EXPECT_EQ(Saetze("ZahlungenT").front().Zahlbetrag, 1000);
     Tilgungsplan plan;
-    EXPECT_EQ(dateien.TilgungsplanRechnen({.Combo4 = Plantermine::zahlungstermine}, plan), std::nullopt);
+    EXPECT_EQ(TilgungsplanRechnen(dateien.PlanreiheLesen(), {.Combo4 = Plantermine::zahlungstermine}, plan),
+              std::nullopt);
+    dateien.PlanAblegen(plan);
     EXPECT_EQ(Groesse("Lösungstableau5R"), 5 * staffelsatz);
     EXPECT_EQ(Saetze("Kurztableau5R").size(), 2U);
     EXPECT_EQ(Saetze("Lösungstableau5R"), *plan.Tableau);
@@ -116,8 +118,9 @@ TEST_F(Allrounddateientest, PlanOhneEffektivzinsLaesstDieTabellenStehen) {
     Setze(Zahlungen({{"01.01.2007", 1000}, {"01.01.2007", -1000}}));
     EXPECT_EQ(dateien.ReiheSchreibenR(), std::nullopt);
     Tilgungsplan plan;
-    EXPECT_EQ(dateien.TilgungsplanRechnen({}, plan)->Meldung,
+    EXPECT_EQ(TilgungsplanRechnen(dateien.PlanreiheLesen(), {}, plan)->Meldung,
               "Ein Tilgungsplan konnte rechnerisch nicht ermittelt werden.");
+    dateien.PlanAblegen(plan);
     EXPECT_EQ(ordner.Inhalt("Lösungstableau5R"), "alt");
 }
 
@@ -126,8 +129,9 @@ TEST_F(Allrounddateientest, FehlerDerSucheHinterlaesstDasTableauUndDasAlteKurzta
     Setze(Zahlungen({{"01.01.2007", 0.01}, {"01.01.2008", -0.012}}));
     EXPECT_EQ(dateien.ReiheSchreibenR(), std::nullopt);
     Tilgungsplan plan;
-    EXPECT_ANY_THROW(
-        static_cast<void>(dateien.TilgungsplanRechnen({.Combo4 = Plantermine::zahlungstermine}, plan)));
+    EXPECT_ANY_THROW(static_cast<void>(
+        TilgungsplanRechnen(dateien.PlanreiheLesen(), {.Combo4 = Plantermine::zahlungstermine}, plan)));
+    dateien.PlanAblegen(plan);
     EXPECT_EQ(Groesse("Lösungstableau5R"), 5 * staffelsatz);
     EXPECT_EQ(ordner.Inhalt("Kurztableau5R"), "alt");
 }
