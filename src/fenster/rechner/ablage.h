@@ -6,6 +6,7 @@
 
 #include "fenster/rechner/befehlszeile.h"
 
+class QMenu;
 class QWidget;
 
 namespace zinfolio {
@@ -29,6 +30,9 @@ class Ablage : public QObject {
 
     /// What the toolbar shows at its right, made once for it; none: nothing.
     [[nodiscard]] virtual QWidget* NeueAnzeige() = 0;
+
+    /// A submenu of its own behind its commands, made once for the menu; none: nothing.
+    [[nodiscard]] virtual QMenu* NeuesMenue() { return nullptr; }
 
     /// The name of what is shown, empty where it has none, and the folder where dialogs begin.
     [[nodiscard]] virtual QString Name() const = 0;

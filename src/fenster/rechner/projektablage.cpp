@@ -2,8 +2,10 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMenu>
 #include <utility>
 
+#include "fenster/rechner/letzteprojekte.h"
 #include "fenster/ui/datumsfeld.h"
 #include "fenster/ui/geschuetzt.h"
 #include "fenster/ui/meldungsfenster.h"
@@ -41,6 +43,12 @@ QWidget* Projektablage::NeueAnzeige() {
     return anzeige;
 }
 
+QMenu* Projektablage::NeuesMenue() {
+    return NeuesProjektmenue(Fenster(), QString::fromUtf8(art_.endung), [this](const QString& datei) {
+        Geschuetzt(Fenster(), [&] { ZuDateiWechseln(datei.toStdString()); });
+    });
+}
+
 QString Projektablage::Name() const {
     return datei_ ? QString::fromStdString(datei_->filename().string()) : QString();
 }
@@ -68,11 +76,18 @@ void Projektablage::DateiOeffnen(const std::filesystem::path& datei) {
     if (Laden(datei, Leseanlass::oeffnen)) BefundeMelden();
 }
 
+void Projektablage::ZuDateiWechseln(const std::filesystem::path& datei) {
+    std::error_code unwichtig;
+    if (datei_ && std::filesystem::equivalent(*datei_, datei, unwichtig)) return;
+    if (DatumSteht(*Fenster()) && AufgebenGewollt()) DateiOeffnen(datei);
+}
+
 bool Projektablage::Laden(const std::filesystem::path& datei, Leseanlass anlass) {
     // A project that cannot be read wholly changes nothing.
     return GeschuetztMitWartezeiger(Fenster(), [&] {
         art_.laden(datei, anlass);
         Benennen(datei);
+        ProjektMerken(QString::fromStdString(datei.string()));
         emit gewechselt();
         Fenster()->setWindowModified(false);
     });

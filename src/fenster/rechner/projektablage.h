@@ -56,11 +56,16 @@ class Projektablage : public Ablage {
     bool Speichern() override;
     [[nodiscard]] std::vector<Befehlszeile> Befehle() override;
     [[nodiscard]] QWidget* NeueAnzeige() override;
+    [[nodiscard]] QMenu* NeuesMenue() override;
     [[nodiscard]] QString Name() const override;
     [[nodiscard]] QString Ordner() const override;
 
     /// Shows a project without asking for its name; what speaks against it is told.
     void DateiOeffnen(const std::filesystem::path& datei);
+
+    /// The same for a project that takes the place of what is shown: asks as "Öffnen" does where there is
+    /// something to lose. The project that is shown already stays as it is.
+    void ZuDateiWechseln(const std::filesystem::path& datei);
 
   protected:
     void VorDerFrage() override;

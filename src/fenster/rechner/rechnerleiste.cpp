@@ -41,6 +41,7 @@ void Rechner::LeisteAnlegen() {
         if (zeile.ort != Befehlszeile::Ort::leiste) datei->addAction(befehl);
         if (zeile.ort != Befehlszeile::Ort::menue) InLeiste(*leiste, befehl, zeile.name);
     }
+    if (QMenu* eigenes = inhalt_.ablage->NeuesMenue()) datei->addMenu(eigenes);
     datei->addSeparator();
     auto* abstand = new QWidget;
     abstand->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QScreen>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <array>
 
@@ -16,7 +17,9 @@
 #include "fenster/rechner/projektablage.h"
 #include "fenster/sparen/sparrechner.h"
 #include "fenster/staffel/form48000.h"
+#include "fenster/start/letztetafel.h"
 #include "fenster/start/programmstart.h"
+#include "fenster/start/projektabwurf.h"
 #include "fenster/start/rechnertaste.h"
 #include "fenster/tabellen/form14005.h"
 #include "fenster/ui/bausteine.h"
@@ -69,6 +72,14 @@ constexpr std::array sparrechner{
                    "Womit zu beginnen ist", "sparen", Anlegen<Form99000>},
 };
 
+/// The calculator of a project, by the ending of its file; none for other files.
+const Rechnereintrag* Projektrechner(const QString& datei) {
+    const QString endung = QFileInfo(datei).suffix();
+    for (const Rechnereintrag* eintrag : {&kontorechner[0], &reihenrechner[0]})
+        if (endung.compare(QString::fromUtf8(eintrag->endung), Qt::CaseInsensitive) == 0) return eintrag;
+    return nullptr;
+}
+
 /// Room for three columns of buttons in the user's font, as far as the screen has it.
 QSize Anfangsgroesse(const QWidget& fenster) {
     const int zeile = fenster.fontMetrics().height();
@@ -95,6 +106,10 @@ Form1::Form1(std::filesystem::path arbeitsordner) : arbeitsordner_(std::move(arb
     RechnerAnbieten(sparrechner);
     MenueAnlegen();
     TafelAnlegen();
+    setAcceptDrops(true);
+    auto* abwurf = new Projektabwurf([](const QString& datei) { return Projektrechner(datei); }, this);
+    connect(abwurf, &Projektabwurf::projektAbgeworfen, this, &Form1::ProjektOeffnenSobaldFrei);
+    qApp->installEventFilter(abwurf);
     resize(Anfangsgroesse(*this));
     move(0, 0);
 }
@@ -149,6 +164,14 @@ void Form1::TafelAnlegen() {
     auto* gruppen = new QHBoxLayout;
     gruppen->setSpacing(18);
     tafel->addLayout(gruppen);
+    letzte_ = new Letztetafel([](const QString& datei) {
+        const Rechnereintrag* eintrag = Projektrechner(datei);
+        return eintrag ? Symbol(QString::fromUtf8(eintrag->symbol)) : QIcon();
+    });
+    // When its own click is over: what follows may fill the list anew.
+    connect(letzte_, &Letztetafel::projektGewaehlt, this, &Form1::ProjektOeffnen, Qt::QueuedConnection);
+    tafel->addSpacing(12);
+    tafel->addWidget(letzte_);
     tafel->addStretch();
     Gruppe(*gruppen, "Konto", kontorechner);
     Gruppe(*gruppen, "Reihen und Tabellen", reihenrechner);
@@ -179,31 +202,55 @@ void Form1::Oeffnen(std::string_view name) {
     wirkungen_.at(name)();
 }
 
-Rechner* Form1::RechnerOeffnen(const Rechnereintrag& eintrag) {
-    Rechner* rechner = nullptr;
-    Geschuetzt(this, [&] {
+bool Form1::RechnerOeffnen(const Rechnereintrag& eintrag) {
+    return Geschuetzt(this, [&] {
         ArbeitsordnerAnlegen(arbeitsordner_);
-        rechner = eintrag.anlegen(arbeitsordner_);
+        Rechner* rechner = eintrag.anlegen(arbeitsordner_);
         rechner->setAttribute(Qt::WA_DeleteOnClose);
         rechner->setWindowIcon(windowIcon());
+        rechner->setAcceptDrops(true);
         connect(rechner, &Rechner::verlassen, this, &Form1::RechnerVerlassen);
         connect(rechner, &Rechner::impressumVerlangt, rechner, [rechner] { ImpressumZeigen(rechner); });
         rechner->show();
         hide();
+        rechner_ = rechner;
+        offener_ = &eintrag;
     });
-    return rechner;
 }
 
 bool Form1::ProjektOeffnen(const QString& datei) {
-    const QString endung = QFileInfo(datei).suffix();
-    for (const Rechnereintrag* eintrag : {&kontorechner[0], &reihenrechner[0]}) {
-        if (endung.compare(QString::fromUtf8(eintrag->endung), Qt::CaseInsensitive) != 0) continue;
-        Rechner* rechner = RechnerOeffnen(*eintrag);
-        if (!rechner) return false;
-        rechner->findChild<Projektablage*>()->DateiOeffnen(QFileInfo(datei).absoluteFilePath().toStdString());
-        return true;
+    const Rechnereintrag* eintrag = Projektrechner(datei);
+    if (!eintrag) return false;
+    if (rechner_ && offener_ != eintrag && !RechnerSchliessen()) return true;
+    if (!rechner_ && !RechnerOeffnen(*eintrag)) {
+        show();
+        return false;
     }
-    return false;
+    const std::filesystem::path pfad = QFileInfo(datei).absoluteFilePath().toStdString();
+    Geschuetzt(rechner_, [&] { rechner_->findChild<Projektablage*>()->ZuDateiWechseln(pfad); });
+    return true;
+}
+
+void Form1::ProjektOeffnenSobaldFrei(const QString& datei) {
+    constexpr int takt = 200;
+    if (!Beschaeftigt())
+        ProjektOeffnen(datei);
+    else
+        QTimer::singleShot(takt, this, [this, datei] { ProjektOeffnenSobaldFrei(datei); });
+}
+
+bool Form1::Beschaeftigt() const {
+    return imNetz_ || QApplication::activeModalWidget() || QApplication::activePopupWidget() ||
+           QApplication::overrideCursor();
+}
+
+void Form1::NachVorn() {
+    QWidget* fenster = QApplication::activeModalWidget();
+    if (!fenster) fenster = rechner_ ? static_cast<QWidget*>(rechner_) : this;
+    fenster->setWindowState(fenster->windowState() & ~Qt::WindowMinimized);
+    fenster->show();
+    fenster->raise();
+    fenster->activateWindow();
 }
 
 void Form1::ImNetz(const std::function<void()>& weg) {
@@ -215,13 +262,28 @@ void Form1::ImNetz(const std::function<void()>& weg) {
     imNetz_ = false;
 }
 
+bool Form1::RechnerSchliessen() {
+    wechselt_ = true;
+    const bool gelungen = rechner_->close();
+    wechselt_ = false;
+    return gelungen;
+}
+
 void Form1::RechnerVerlassen() {
+    // It lives until the event loop deletes it.
+    rechner_ = nullptr;
+    if (wechselt_) return;
     const QStringList argumente = QCoreApplication::arguments().mid(1);
     if (KehrtZumStartZurueck(argumente.join(' '))) {
         show();
     } else {
         QApplication::quit();
     }
+}
+
+void Form1::showEvent(QShowEvent* ereignis) {
+    QMainWindow::showEvent(ereignis);
+    letzte_->Auffrischen();
 }
 
 void Form1::closeEvent(QCloseEvent* /*ereignis*/) {
