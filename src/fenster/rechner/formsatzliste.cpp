@@ -18,10 +18,9 @@ FormSatzliste::FormSatzliste(const Satzlistenart& art, const Satzdatei<Staffelsa
       rueckgaengig_(nullptr) {
     NeuerBefehl("Bea&rbeiten", {Qt::Key_Return, Qt::Key_Enter}, [this] { bearbeiten(); });
     NeuerBefehl("&Löschen", {QKeySequence::Delete}, [this] { MarkierteLoeschen(); });
-    rueckgaengig_ =
-        NeuerBefehl("Löschen rü&ckgängig", {QKeySequence::Undo}, [this] { LoeschenRueckgaengig(); });
+    rueckgaengig_ = NeuerBefehl({}, {QKeySequence::Undo}, [this] { SchrittRueckgaengig(); });
     rueckgaengig_->setObjectName("LöschenRückgängig");
-    rueckgaengig_->setEnabled(false);
+    RueckgaengigZeigen();
     connect(tabelle_, &QTableView::doubleClicked, this,
             [this] { Geschuetzt(tabelle_, [this] { bearbeiten(); }); });
 }
@@ -68,8 +67,8 @@ std::optional<std::size_t> FormSatzliste::Stelle(const Staffelsatz& satz) const 
 }
 
 void FormSatzliste::KontoWechseln() {
-    geloescht_.clear();
-    rueckgaengig_->setEnabled(false);
+    schritte_.clear();
+    RueckgaengigZeigen();
     geaendert_.reset();
     NeuLesen();
 }
@@ -120,18 +119,39 @@ void FormSatzliste::Loeschen(const std::vector<std::size_t>& zeilen) {
     std::vector<Staffelsatz> saetze = saetze_;
     Loeschung loeschung = SaetzeLoeschen(saetze, zeilen);
     Ersetzen(saetze, zeilen.empty() ? std::nullopt : std::optional(zeilen.front()));
-    if (!loeschung.saetze.empty()) geloescht_.push_back(std::move(loeschung));
-    rueckgaengig_->setEnabled(!geloescht_.empty());
+    if (!loeschung.saetze.empty()) SchrittMerken(std::move(loeschung));
 }
 
-void FormSatzliste::LoeschenRueckgaengig() {
-    if (geloescht_.empty()) return;
+void FormSatzliste::Aufnehmen(std::vector<Staffelsatz> neue) {
     std::vector<Staffelsatz> saetze = saetze_;
-    LoeschungZuruecknehmen(saetze, geloescht_.back());
+    saetze.insert(saetze.end(), neue.begin(), neue.end());
     ordnen(saetze);
     Ersetzen(saetze);
-    geloescht_.pop_back();
-    rueckgaengig_->setEnabled(!geloescht_.empty());
+    SchrittMerken(Zugang{std::move(neue)});
+}
+
+void FormSatzliste::SchrittMerken(Schritt schritt) {
+    schritte_.push_back(std::move(schritt));
+    RueckgaengigZeigen();
+}
+
+void FormSatzliste::SchrittRueckgaengig() {
+    if (schritte_.empty()) return;
+    std::vector<Staffelsatz> saetze = saetze_;
+    if (const auto* loeschung = std::get_if<Loeschung>(&schritte_.back()))
+        LoeschungZuruecknehmen(saetze, *loeschung);
+    else
+        ZugangZuruecknehmen(saetze, std::get<Zugang>(schritte_.back()).saetze);
+    ordnen(saetze);
+    Ersetzen(saetze);
+    schritte_.pop_back();
+    RueckgaengigZeigen();
+}
+
+void FormSatzliste::RueckgaengigZeigen() {
+    const bool einlesen = !schritte_.empty() && std::holds_alternative<Zugang>(schritte_.back());
+    rueckgaengig_->setText(einlesen ? "Einlesen rü&ckgängig" : "Löschen rü&ckgängig");
+    rueckgaengig_->setEnabled(!schritte_.empty());
 }
 
 }  // namespace zinfolio

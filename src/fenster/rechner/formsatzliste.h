@@ -3,6 +3,7 @@
 #include <QObject>
 #include <functional>
 #include <optional>
+#include <variant>
 #include <vector>
 
 #include "fenster/ui/tabelle.h"
@@ -21,8 +22,9 @@ struct Satzlistenart {
 };
 
 /// The list of the rows of one working file: the number of a list row is the number of its record. Deletes
-/// marked rows after a question, and brings them back as long as the account is open. Enter and a double
-/// click edit the marked row, Delete deletes, Ctrl+Z brings back; the context menu has all of it.
+/// marked rows after a question and takes rows in by the dozen; both can be taken back, the last one first,
+/// as long as the account is open. Enter and a double click edit the marked row, Delete deletes, Ctrl+Z takes
+/// back; the context menu has all of it.
 class FormSatzliste : public QObject {
     Q_OBJECT
 
@@ -44,6 +46,13 @@ class FormSatzliste : public QObject {
     /// Makes these rows the file's content and shows them, with `marke` selected, else the last row.
     void Ersetzen(const std::vector<Staffelsatz>& saetze, std::optional<std::size_t> marke = std::nullopt);
 
+    /// Puts rows behind all others.
+    void Aufnehmen(std::vector<Staffelsatz> neue);
+
+    /// Adds a command to the context menu, with its keys while the list has the focus.
+    QAction* NeuerBefehl(const QString& beschriftung, std::initializer_list<QKeySequence> tasten,
+                         const std::function<void()>& wirkung);
+
     /// Puts the marked row under change; a message, and false, where there is none.
     bool AenderungBeginnen();
     void AenderungBeenden() { geaendert_.reset(); }
@@ -63,24 +72,31 @@ class FormSatzliste : public QObject {
     /// Called when the user has made other rows the file's content.
     std::function<void()> nachAendern = [] {};
 
-    /// Brings the rows into the order that the file keeps, after deleted ones have come back.
+    /// Brings the rows into the order that the file keeps, after a step was taken back.
     std::function<void(std::vector<Staffelsatz>&)> ordnen = [](auto&) {};
 
   private:
+    /// Rows that were added.
+    struct Zugang {
+        std::vector<Staffelsatz> saetze;
+    };
+    using Schritt = std::variant<Loeschung, Zugang>;
+
     [[nodiscard]] std::optional<std::size_t> Stelle(const Staffelsatz& satz) const;
-    QAction* NeuerBefehl(const QString& beschriftung, std::initializer_list<QKeySequence> tasten,
-                         const std::function<void()>& wirkung);
     void Lesen();
     void Zeigen();
     void Loeschen(const std::vector<std::size_t>& zeilen);
-    void LoeschenRueckgaengig();
+    void SchrittMerken(Schritt schritt);
+    void SchrittRueckgaengig();
+    void RueckgaengigZeigen();
 
     Satzlistenart art_;
     Satzdatei<Staffelsatz> datei_;
     Tabelle* tabelle_;
     QAction* rueckgaengig_;
     std::vector<Staffelsatz> saetze_;
-    std::vector<Loeschung> geloescht_;
+    /// What can be taken back, the last step last.
+    std::vector<Schritt> schritte_;
     std::optional<std::size_t> geaendert_;
 };
 

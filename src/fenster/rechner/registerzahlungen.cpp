@@ -196,7 +196,30 @@ QWidget* RegisterZahlungen::Vorschauseite() {
     return seite;
 }
 
+void RegisterZahlungen::EinlesenAnlegen() {
+    liste_
+        .NeuerBefehl("Zahlungen ein&fügen", {QKeySequence::Paste},
+                     [this] { Einlesen(ZahlungenAusZwischenablage); })
+        ->setObjectName("Einfügen");
+    liste_.NeuerBefehl("Zahlungen aus &Datei einlesen …", {}, [this] { Einlesen(ZahlungenAusDatei); })
+        ->setObjectName("DateiEinlesen");
+}
+
+void RegisterZahlungen::Einlesen(Einleser einleser) {
+    const Einleseauftrag auftrag{
+        .fenster = this,
+        .platz = HoechstzahlSaetze - std::min(HoechstzahlSaetze, liste_.Saetze().size()),
+        .tabelle =
+            [](const std::vector<Staffelsatz>& saetze) {
+                return TabelleBilden(Zahlungsliste().spalten,
+                                     std::make_shared<const std::vector<Staffelsatz>>(saetze));
+            },
+    };
+    if (auto neue = einleser(auftrag)) liste_.Aufnehmen(std::move(*neue));
+}
+
 void RegisterZahlungen::Verdrahten() {
+    EinlesenAnlegen();
     liste_.nachLesen = [this] {
         felder_.Feld("Ratzahl")->setText("1");
         felder_.Feld("Abstand")->setText("1");

@@ -3,6 +3,7 @@
 #include <QWidget>
 
 #include "fenster/rechner/formsatzliste.h"
+#include "fenster/rechner/zahlungseinleser.h"
 #include "fenster/ui/feldtafel.h"
 #include "kern/dates/zahlformat.h"
 #include "kern/staffel/zahlungseingabe.h"
@@ -54,6 +55,8 @@ class RegisterZahlungen : public QWidget {
     QWidget* Eingabeseite();
     QWidget* Listenseite();
     QWidget* Vorschauseite();
+    void EinlesenAnlegen();
+    void Einlesen(Einleser einleser);
     void Verdrahten();
 
     void Zeigen(const Zahlungseingabe& eingabe);

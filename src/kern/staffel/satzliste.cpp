@@ -1,6 +1,11 @@
 #include "kern/staffel/satzliste.h"
 
 #include <algorithm>
+#include <bit>
+#include <cstdint>
+#include <map>
+#include <string_view>
+#include <tuple>
 
 namespace zinfolio {
 
@@ -36,6 +41,26 @@ void LoeschungZuruecknehmen(std::vector<Staffelsatz>& saetze, const Loeschung& l
     }
     ergebnis.insert(ergebnis.end(), rest, saetze.end());
     saetze = std::move(ergebnis);
+}
+
+void ZugangZuruecknehmen(std::vector<Staffelsatz>& saetze, std::span<const Staffelsatz> zugang) {
+    const auto schluessel = [](const Staffelsatz& satz) {
+        return std::tuple(satz.Satzdatum.Getrimmt(), std::bit_cast<std::uint64_t>(satz.Zahlbetrag),
+                          satz.Zahlungstext.Getrimmt());
+    };
+    std::map<decltype(schluessel(saetze[0])), std::size_t> offen;
+    for (const Staffelsatz& satz : zugang)
+        ++offen[schluessel(satz)];
+    std::vector<Staffelsatz> rest;
+    for (auto satz = saetze.rbegin(); satz != saetze.rend(); ++satz) {
+        const auto treffer = offen.find(schluessel(*satz));
+        if (treffer == offen.end() || treffer->second == 0)
+            rest.push_back(*satz);
+        else
+            --treffer->second;
+    }
+    std::ranges::reverse(rest);
+    saetze = std::move(rest);
 }
 
 }  // namespace zinfolio

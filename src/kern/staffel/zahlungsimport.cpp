@@ -6,7 +6,6 @@
 #include <span>
 #include <variant>
 
-#include "kern/dateien/satzdatei.h"
 #include "kern/dates/fremdzahl.h"
 #include "kern/dates/textteile.h"
 #include "kern/dates/zahl.h"
@@ -170,7 +169,7 @@ void KoepfeNennen(const Banktabelle& tabelle, Zahlungsimport& ergebnis) {
 
 }  // namespace
 
-Zahlungsimport ZahlungenEinlesen(std::string_view bytes) {
+Zahlungsimport ZahlungenEinlesen(std::string_view bytes, std::size_t hoechstens) {
     const Banktabelle tabelle = TabelleFinden(bytes);
     const Zeilen zeilen = Zeilen(tabelle.zeilen).subspan(tabelle.erste);
     const Zeilenleser leser(tabelle.spalten, DezimalzeichenFinden(zeilen, tabelle.spalten));
@@ -180,7 +179,7 @@ Zahlungsimport ZahlungenEinlesen(std::string_view bytes) {
         const auto gelesen = leser.Lesen(zeile);
         if (const auto* grund = std::get_if<std::string>(&gelesen))
             ergebnis.ausfaelle.push_back(Ausfall(zeile, *grund));
-        else if (ergebnis.zahlungen.size() == HoechstzahlSaetze)
+        else if (ergebnis.zahlungen.size() >= hoechstens)
             ergebnis.ausfaelle.push_back(Ausfall(zeile, "Mehr als 32767 Zahlungen hat kein Konto."));
         else
             ergebnis.zahlungen.push_back(std::get<Staffelsatz>(gelesen));

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "kern/dateien/satzdatei.h"
 #include "kern/staffel/staffelsatz.h"
 
 namespace zinfolio {
@@ -35,7 +36,9 @@ struct Zahlungsimport {
 /// with lines of the bank before its header line. Columns are found by their headers (`BankspaltenLesen`),
 /// without a header line by what they hold. The decimal sign is the comma unless all amounts that decide it
 /// have a point. A line without a real date or a clear amount is not taken, nor is one in another currency
-/// than the euro. Throws `Csvfehler` for a text that is no table or holds no column with dates and amounts.
-[[nodiscard]] Zahlungsimport ZahlungenEinlesen(std::string_view bytes);
+/// than the euro, nor are those beyond `hoechstens` payments. Throws `Csvfehler` for a text that is no table
+/// or holds no column with dates and amounts.
+[[nodiscard]] Zahlungsimport ZahlungenEinlesen(std::string_view bytes,
+                                               std::size_t hoechstens = HoechstzahlSaetze);
 
 }  // namespace zinfolio

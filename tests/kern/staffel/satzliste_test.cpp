@@ -84,5 +84,24 @@ TEST_F(SatzlisteTest, InKuerzererListeKommenSieAnsEnde) {
     EXPECT_THAT(Betraege(), ElementsAre(1, 5));
 }
 
+TEST_F(SatzlisteTest, EinZugangGehtAuchAusSortierterListe) {
+    const Saetze zugang{Zahlung("15.02.2007", 7), Zahlung("15.01.2007", 8)};
+    saetze.insert(saetze.begin() + 2, zugang[0]);
+    saetze.insert(saetze.begin() + 1, zugang[1]);
+    ZugangZuruecknehmen(saetze, zugang);
+    EXPECT_EQ(saetze, vorher);
+}
+
+TEST_F(SatzlisteTest, VonGleichenGehtDerLetzteUndNurEinerJeZugang) {
+    saetze.push_back(Zahlung("01.01.2007", 1));
+    ZugangZuruecknehmen(saetze, Saetze{Zahlung("01.01.2007", 1)});
+    EXPECT_EQ(saetze, vorher);
+}
+
+TEST_F(SatzlisteTest, EinGeaenderterZugangNimmtNichtsMit) {
+    ZugangZuruecknehmen(saetze, Saetze{Zahlung("01.01.2007", 1.5), Zahlung("02.01.2007", 1)});
+    EXPECT_EQ(saetze, vorher);
+}
+
 }  // namespace
 }  // namespace zinfolio

@@ -113,6 +113,15 @@ TEST(ZahlungenEinlesen, EinKontoHatHoechstens32767Zahlungen) {
                                                               "Mehr als 32767 Zahlungen hat kein Konto."}));
 }
 
+TEST(ZahlungenEinlesen, EinVollesKontoNimmtNurNochWasPlatzHat) {
+    const Zahlungsimport ergebnis =
+        ZahlungenEinlesen("Datum;Betrag\n01.01.2024;1\n02.01.2024;2\n03.01.2024;3\n", 2);
+    EXPECT_EQ(ergebnis.zahlungen.size(), 2U);
+    EXPECT_THAT(ergebnis.ausfaelle,
+                ElementsAre(Importausfall{4, "03.01.2024 | 3", "Mehr als 32767 Zahlungen hat kein Konto."}));
+    EXPECT_TRUE(ZahlungenEinlesen("Datum;Betrag\n01.01.2024;1\n", 0).zahlungen.empty());
+}
+
 TEST(ZahlungenEinlesen, OhneDatumUndBetragIstEsKeineTabelle) {
     for (const std::string_view text :
          {"", "Hallo", "Datum;Text\n01.01.2024;Miete\n", "Name;Betrag\nMiete;5,00\n"})
