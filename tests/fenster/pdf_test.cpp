@@ -115,6 +115,20 @@ class PdfTest : public QObject {
         InDenRaendern();
     }
 
+    void derTitelStehtNurAufDerErstenSeiteDerTabelle() {
+        Bericht bericht = Nummernbericht(100);
+        bericht.titelzeilen = {"Barwert       Solar", "Zins : 7,500000 %"};
+        Schreiben(bericht);
+        const QStringList seiten = Seitentexte(Datei());
+        QCOMPARE(seiten.size(), 4);
+        QVERIFY2(seiten[1].startsWith("Barwert") && seiten[1].contains("\nZins : 7,500000 %\n"),
+                 qPrintable(seiten[1].left(200)));
+        for (const int ohne : {0, 2, 3})
+            QVERIFY2(!seiten[ohne].contains("7,500000"), qPrintable(seiten[ohne].left(200)));
+        QCOMPARE(seiten.join("").count("Nr000"), 100);
+        InDenRaendern();
+    }
+
     void titelUndVerfasserStehenImDokument() {
         Schreiben(Nummernbericht(1));
         QCOMPARE(Pdfangabe(Datei(), "Title"), "Zinsstaffel Köln (1) \\ 2");

@@ -84,7 +84,28 @@ void Seitenmaler::KopfseiteMalen(QPainter& maler, const Berichtsseite& seite, do
     lauf.Zeichnen();
 }
 
+void Seitenmaler::TitelMalen(QPainter& maler, double p) const {
+    maler.setPen(tinte);
+    Schriftlauf lauf(kopfschrift_, maler, layout_.tabellenfaktor * p);
+    double hoehe = grundlinie * layout_.kopfzeile;
+    for (const std::string& zeile : layout_.titel) {
+        lauf.Links(QPointF(0, hoehe * p), zeile);
+        hoehe += layout_.kopfzeile;
+    }
+    lauf.Zeichnen();
+}
+
 void Seitenmaler::TabellenseiteMalen(QPainter& maler, const Berichtsseite& seite, double p) const {
+    maler.save();
+    if (HatTitel(layout_, seite)) {
+        TitelMalen(maler, p);
+        maler.translate(0, layout_.titelhoehe * p);
+    }
+    TabelleMalen(maler, seite, p);
+    maler.restore();
+}
+
+void Seitenmaler::TabelleMalen(QPainter& maler, const Berichtsseite& seite, double p) const {
     TabellenkopfMalen(maler, p);
     Schriftlauf lauf(zellenschrift_, maler, layout_.tabellenfaktor * p);
     const double breite = layout_.kanten.back() * p;

@@ -39,6 +39,8 @@ class Seitenmaler {
     // `p` is pixels to the twip; the origin is where the margins meet.
     void KopfseiteMalen(QPainter& maler, const Berichtsseite& seite, double p) const;
     void TabellenseiteMalen(QPainter& maler, const Berichtsseite& seite, double p) const;
+    void TitelMalen(QPainter& maler, double p) const;
+    void TabelleMalen(QPainter& maler, const Berichtsseite& seite, double p) const;
     void TabellenkopfMalen(QPainter& maler, double p) const;
     void KopfzelleSetzen(Schriftlauf& lauf, std::size_t spalte, double p) const;
     void ZeileSetzen(Schriftlauf& lauf, const Zeilenbild& bild, double oben, double p) const;

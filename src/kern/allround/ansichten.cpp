@@ -30,7 +30,7 @@ struct Berichtsaufbau {
     std::string_view koepfe;
 };
 
-constexpr std::string_view wertformat = "^+1.0in|^1.6in|^1.6in^|0.6in^|0.6in^|1.6in|^1.6in|^1.6in";
+constexpr std::string_view wertformat = "^+1.0in|^1.6in|^1.6in^|0.6in|^0.6in|^1.6in|^1.6in|^1.6in";
 constexpr std::string_view planformat = "^1.0in|^1.6in^|^1.6in|^1.6in|^1.6in";
 
 /// By `Anzeigeart`, from 1 on.
@@ -52,24 +52,29 @@ constexpr std::string_view sensitivitaetskoepfeDesEndwerts =
     "Zins|kumulierte Zahlungen| kumulierter Vermögensendwert |Statische Amortisation|"
     "Dynamische Amortisation|Jahre|Tage";
 
+constexpr std::string_view jahresformat = "^+1.0in|^1.6in|^1.6in|^1.6in|^1.6in";
+
 std::string Zinszeile(std::string_view zins) {
     return "Zins : " + Format(Zahlwert(zins), titelmuster) + " %";
 }
 
-std::vector<std::string> WeitereTitelzeilen(const Allroundberichtsdaten& daten) {
+std::vector<std::string> Titelzeilen(const std::string& titel, const Allroundberichtsdaten& daten) {
     switch (daten.art) {
         case Anzeigeart::barwert:
         case Anzeigeart::endwert:
-            return {Zinszeile(daten.Abzins2)};
+            return {titel, Zinszeile(daten.Abzins2)};
         case Anzeigeart::effektivzins:
-            return {Zinszeile(daten.Effektivergebnis), "Berechnung nach " + daten.methode};
+            return {
+                titel,
+                daten.Effektivergebnis.empty() ? "Zins : keiner gefunden" : Zinszeile(daten.Effektivergebnis),
+                "Berechnung nach " + daten.methode};
         case Anzeigeart::sensitivitaet:
-            return {};
+            return {titel};
         case Anzeigeart::planJahresweise:
         case Anzeigeart::planUnterjaehrig:
             break;
     }
-    return {"Zinstermine      : " + daten.zinstermine, "Nominalzins      : " + daten.nomzins,
+    return {titel, "Zinstermine      : " + daten.zinstermine, "Nominalzins      : " + daten.nomzins,
             "Effektivzinssatz : " + daten.effzinssatz};
 }
 
@@ -122,12 +127,19 @@ Bericht AllroundberichtBilden(const Allroundberichtsdaten& daten) {
     const bool endwerte = daten.art == Anzeigeart::sensitivitaet && daten.wertart == Wertart::endwert;
     Bericht bericht;
     bericht.titel = std::string(aufbau.titel) + daten.projekt;
-    bericht.seitenzeile = bericht.titel;
-    for (const std::string& zeile : WeitereTitelzeilen(daten))
-        bericht.seitenzeile += "\n" + zeile;
+    bericht.titelzeilen = Titelzeilen(bericht.titel, daten);
     Tabelleninhalt inhalt = daten.tabelle;
     KoepfeSetzen(inhalt, endwerte ? sensitivitaetskoepfeDesEndwerts : aufbau.koepfe);
     bericht.tabelle = BerichtstabelleBilden(inhalt, aufbau.format, punkte);
+    return bericht;
+}
+
+Bericht JahresberichtBilden(const std::string& projekt, const std::string& Abzins2,
+                            const Tabelleninhalt& tabelle) {
+    Bericht bericht;
+    bericht.titel = "Barwerttabelle für alle Jahre       " + projekt;
+    bericht.titelzeilen = {bericht.titel, Zinszeile(Abzins2)};
+    bericht.tabelle = BerichtstabelleBilden(tabelle, jahresformat, punkte);
     return bericht;
 }
 

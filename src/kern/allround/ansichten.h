@@ -51,7 +51,11 @@ struct Allroundberichtsdaten {
     Tabelleninhalt tabelle{};
 };
 
-/// The title lines stand above the table on every page.
+/// The title lines stand above the table on its first page.
 [[nodiscard]] Bericht AllroundberichtBilden(const Allroundberichtsdaten& daten);
+
+/// The same for the values by years, which have no `Anzeigeart`: the table by the headers of its grid.
+[[nodiscard]] Bericht JahresberichtBilden(const std::string& projekt, const std::string& Abzins2,
+                                          const Tabelleninhalt& tabelle);
 
 }  // namespace zinfolio

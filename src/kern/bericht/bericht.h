@@ -57,7 +57,9 @@ struct Bericht {
     /// The lines of the head pages, in columns of single characters.
     std::vector<std::string> kopfblock;
     Berichtsschrift kopfblockschrift{.name = "Courier New", .punkte = 10};
-    /// The line above the table's header on every page, or several with line feeds between; empty: none.
+    /// Lines above the table on its first page.
+    std::vector<std::string> titelzeilen;
+    /// The line above the table's header on every page; empty: none.
     std::string seitenzeile;
     Berichtstabelle tabelle;
     bool querformat = true;

@@ -50,6 +50,9 @@ std::string Stilvorlage(const Bericht& bericht, int tabellenbreite) {
            "th { " +
            Schriftregel(tabelle.kopfschrift, "sans-serif") +
            "; text-align: center; vertical-align: bottom; border-bottom: 0.75pt solid; }\n"
+           "caption { " +
+           Schriftregel(tabelle.kopfschrift, "sans-serif") +
+           "; text-align: left; padding: 1pt 2pt; white-space: pre-wrap; }\n"
            "th.seitenzeile { text-align: left; border: 0; }\n"
            "th, td { padding: 1pt 2pt; white-space: pre-wrap; overflow-wrap: anywhere; }\n"
            "td { text-align: right; vertical-align: top; border-bottom: 0.5pt solid rgb(128 128 128 / 0.3); "
@@ -80,6 +83,16 @@ void Kopfseiten(std::string& html, const Bericht& bericht) {
         html += '\n';
     }
     html += "</pre>\n";
+}
+
+void Titel(std::string& html, const std::vector<std::string>& zeilen) {
+    if (zeilen.empty()) return;
+    html += "<caption>";
+    for (std::size_t i = 0; i < zeilen.size(); ++i) {
+        if (i > 0) html += '\n';
+        HtmlTextAnhaengen(html, zeilen[i]);
+    }
+    html += "</caption>\n";
 }
 
 void Spaltengruppe(std::string& html, const std::vector<int>& kanten) {
@@ -128,6 +141,7 @@ void Tabellenkopf(std::string& html, const Bericht& bericht) {
 bool Tabelle(Berichtsstrom& strom, const Bericht& bericht, const std::vector<int>& kanten) {
     std::string& html = strom.Text();
     html += "<table>\n";
+    Titel(html, bericht.titelzeilen);
     Spaltengruppe(html, kanten);
     Tabellenkopf(html, bericht);
     html += "<tbody>\n";

@@ -109,16 +109,20 @@ void Zeilenschluss(std::string& rtf) {
     rtf.append("\\row").append(zeilenende);
 }
 
+/// A line that goes over the whole table.
+void Kopflinie(std::string& rtf, std::string_view text, const std::string& schrift,
+               const std::vector<int>& kanten, std::string_view merkmale) {
+    rtf += Zeilenanfang({kanten.back()}, merkmale, "") + "\\ql" + schrift + " ";
+    RtfTextAnhaengen(rtf, text);
+    rtf += "\\cell";
+    Zeilenschluss(rtf);
+}
+
 /// The page line, and the header of the table below it.
 std::string Tabellenkopf(const Bericht& bericht, const std::string& schrift, const std::vector<int>& kanten,
                          std::string_view merkmale) {
     std::string rtf;
-    if (!bericht.seitenzeile.empty()) {
-        rtf = Zeilenanfang({kanten.back()}, merkmale, "") + "\\ql" + schrift + " ";
-        RtfTextAnhaengen(rtf, bericht.seitenzeile);
-        rtf += "\\cell";
-        Zeilenschluss(rtf);
-    }
+    if (!bericht.seitenzeile.empty()) Kopflinie(rtf, bericht.seitenzeile, schrift, kanten, merkmale);
     if (!HatKopf(bericht.tabelle)) return rtf;
     rtf += Zeilenanfang(kanten, merkmale, kopfrahmen) + schrift;
     for (const Berichtsspalte& spalte : bericht.tabelle.spalten) {
@@ -139,6 +143,8 @@ void Tabellenabschnitt(std::string& rtf, const Bericht& bericht, const std::stri
     rtf.append("\\sbkpage\\titlepg\\headery").append(std::to_string(bericht.rand)).append("{\\header");
     rtf.append(zeilenende).append(Tabellenkopf(bericht, schrift, kanten, "\\trkeep\\trhdr"));
     rtf.append(schlussabsatz).append("}").append(zeilenende);
+    for (const std::string& zeile : bericht.titelzeilen)
+        Kopflinie(rtf, zeile, schrift, kanten, "\\trkeep");
     rtf += Tabellenkopf(bericht, schrift, kanten, "\\trkeep");
 }
 

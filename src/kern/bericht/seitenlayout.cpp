@@ -94,24 +94,25 @@ void SpaltenLegen(Seitenlayout& layout, const Berichtstabelle& tabelle,
         layout.kanten.push_back(static_cast<int>(std::lround(kante += breite)));
 }
 
-std::vector<std::string> SeitenzeileUmbrechen(std::string_view text, const Textmass& mass, double platz) {
-    std::vector<std::string> zeilen;
-    for (std::size_t anfang = 0; anfang <= text.size();) {
-        const std::size_t ende = std::min(text.find('\n', anfang), text.size());
-        std::ranges::move(mass.InZeilen(text.substr(anfang, ende - anfang), platz),
-                          std::back_inserter(zeilen));
-        anfang = ende + 1;
-    }
-    return zeilen;
+/// What lines of the header's font take above the header.
+int Hoehe(const Seitenlayout& layout, const std::vector<std::string>& zeilen) {
+    return static_cast<int>(zeilen.size()) * layout.kopfzeile + 2 * layout.zellabstand;
+}
+
+void TitelLegen(Seitenlayout& layout, const Bericht& bericht, const Textmass& mass) {
+    if (bericht.titelzeilen.empty()) return;
+    for (const std::string& zeile : bericht.titelzeilen)
+        std::ranges::move(mass.InZeilen(zeile, Textplatz(layout) / layout.tabellenfaktor),
+                          std::back_inserter(layout.titel));
+    layout.titelhoehe = Hoehe(layout, layout.titel);
 }
 
 void KopfLegen(Seitenlayout& layout, const Bericht& bericht, const Textmass& mass) {
     layout.kopfzeile = Anteil(bericht.tabelle.kopfschrift, layout.tabellenfaktor, zeilenhoehe);
+    TitelLegen(layout, bericht, mass);
     if (!bericht.seitenzeile.empty()) {
-        layout.seitenzeile =
-            SeitenzeileUmbrechen(bericht.seitenzeile, mass, Textplatz(layout) / layout.tabellenfaktor);
-        layout.seitenzeilenhoehe =
-            static_cast<int>(layout.seitenzeile.size()) * layout.kopfzeile + 2 * layout.zellabstand;
+        layout.seitenzeile = mass.InZeilen(bericht.seitenzeile, Textplatz(layout) / layout.tabellenfaktor);
+        layout.seitenzeilenhoehe = Hoehe(layout, layout.seitenzeile);
     }
     std::size_t zeilen = 1;
     for (std::size_t spalte = 0; spalte < bericht.tabelle.spalten.size(); ++spalte) {
@@ -157,7 +158,7 @@ class Zeilenhoehen {
 void ZeilenVerteilen(Seitenlayout& layout, std::size_t zeilen, const Zeilenhoehen& hoehen) {
     const int platz = Hoehenplatz(layout) - layout.seitenzeilenhoehe - layout.kopfhoehe;
     Berichtsseite seite{Berichtsseite::Art::tabelle, 0, 0};
-    int belegt = 0;
+    int belegt = layout.titelhoehe;
     for (std::size_t zeile = 0; zeile < zeilen; ++zeile) {
         const int hoehe = hoehen(zeile);
         if (belegt + hoehe > platz && seite.bis > seite.von) {

@@ -46,15 +46,22 @@ struct Seitenlayout {
     /// The edges of the columns, counted from the left margin: the left one of the first, then the right
     /// ones.
     std::vector<int> kanten;
-    /// The line above the header and the headers of the columns, broken into lines.
+    /// The title lines, the line above the header, and the headers of the columns, broken into lines.
+    std::vector<std::string> titel;
     std::vector<std::string> seitenzeile;
     std::vector<std::vector<std::string>> koepfe;
-    /// What the two take at the top of each page of the table.
+    /// What the title takes at the top of the table's first page, and the other two at the top of each.
+    int titelhoehe = 0;
     int seitenzeilenhoehe = 0;
     int kopfhoehe = 0;
     /// At least one.
     std::vector<Berichtsseite> seiten;
 };
+
+/// The title stands on the table's first page.
+[[nodiscard]] inline bool HatTitel(const Seitenlayout& layout, const Berichtsseite& seite) {
+    return !layout.titel.empty() && seite.art == Berichtsseite::Art::tabelle && seite.von == 0;
+}
 
 /// A row of the table as it is drawn: the lines of each cell, and the height of the row.
 struct Zeilenbild {

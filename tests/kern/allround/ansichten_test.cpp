@@ -74,7 +74,8 @@ TEST(Sensitivitaetsansicht, HatDieZellenDerTabelle) {
 TEST(Allroundbericht, Barwert) {
     const Bericht bericht = AllroundberichtBilden(
         {.projekt = "Solar", .Abzins2 = "7,5", .tabelle = WertansichtBilden(Analyse(Wertart::barwert))});
-    EXPECT_EQ(bericht.seitenzeile, "Barwert       Solar\nZins : 7,500000 %");
+    EXPECT_THAT(bericht.titelzeilen, ElementsAre("Barwert       Solar", "Zins : 7,500000 %"));
+    EXPECT_EQ(bericht.seitenzeile, "");
     EXPECT_EQ(bericht.titel, "Barwert       Solar");
     EXPECT_THAT(Koepfe(bericht), ElementsAre("Datum", "Zahlung", "kumulierte Zahlungen", "Jahre", "Tage",
                                              "Divisor", "Barwert", "kumulierter Barwert"));
@@ -88,7 +89,7 @@ TEST(Allroundbericht, OhneProjektBleibenDieLeerzeichenDesTitels) {
     const Bericht bericht = AllroundberichtBilden({.art = Anzeigeart::endwert,
                                                    .Abzins2 = "abc",
                                                    .tabelle = WertansichtBilden(Analyse(Wertart::endwert))});
-    EXPECT_EQ(bericht.seitenzeile, "Vermögensendwert       \nZins : 0,000000 %");
+    EXPECT_THAT(bericht.titelzeilen, ElementsAre("Vermögensendwert       ", "Zins : 0,000000 %"));
     EXPECT_EQ(Koepfe(bericht)[5], "Faktor");
     EXPECT_EQ(Koepfe(bericht)[7], "kum.Verm-Endwerte");
 }
@@ -100,16 +101,27 @@ TEST(Allroundbericht, Effektivzinssatz) {
                                                    .Effektivergebnis = ",50000",
                                                    .methode = "AIDB 360",
                                                    .tabelle = tabelle});
-    EXPECT_EQ(bericht.seitenzeile, "Effektivzinssatz       P\nZins : 0,500000 %\nBerechnung nach AIDB 360");
+    EXPECT_THAT(bericht.titelzeilen,
+                ElementsAre("Effektivzinssatz       P", "Zins : 0,500000 %", "Berechnung nach AIDB 360"));
     EXPECT_THAT(Koepfe(bericht), ElementsAre("Datum", "Zahlung", "Faktor", "Vermögensendwert",
                                              "kum.Verm-Endwerte", "kum.Zahlungen"));
+}
+
+TEST(Allroundbericht, OhneEffektivzinssatzStehtNichtNullDa) {
+    const Bericht bericht =
+        AllroundberichtBilden({.art = Anzeigeart::effektivzins,
+                               .projekt = "P",
+                               .methode = "AIDB 360",
+                               .tabelle = TexttabelleBilden({{"1"}, {"2"}, {"3"}, {"4"}, {"5"}, {"6"}}, {})});
+    EXPECT_THAT(bericht.titelzeilen, ElementsAre("Effektivzinssatz       P", "Zins : keiner gefunden",
+                                                 "Berechnung nach AIDB 360"));
 }
 
 TEST(Allroundbericht, SensitivitaetNenntDenWertIhrerAnalyse) {
     const Tabelleninhalt tabelle = TexttabelleBilden({{"1"}, {"2"}, {"3"}, {"4"}, {"5"}, {"6"}, {"7"}}, {});
     const Bericht barwerte =
         AllroundberichtBilden({.art = Anzeigeart::sensitivitaet, .projekt = "P", .tabelle = tabelle});
-    EXPECT_EQ(barwerte.seitenzeile, "Amortisationsdauer(Dynamische)     P");
+    EXPECT_THAT(barwerte.titelzeilen, ElementsAre("Amortisationsdauer(Dynamische)     P"));
     EXPECT_THAT(Koepfe(barwerte),
                 ElementsAre("Zins", "kumulierte Zahlungen", " kumulierter Barwert ", "Statische Amortisation",
                             "Dynamische Amortisation", "Jahre", "Tage"));
@@ -127,15 +139,28 @@ TEST(Allroundbericht, Tilgungsplaene) {
         .nomzins = "4,00000 %",
         .effzinssatz = "4,07415 %",
         .tabelle = PlanansichtBilden(Zinsstaffelanzeige2({}, 4), Planansicht::jahresweise)};
-    EXPECT_EQ(AllroundberichtBilden(daten).seitenzeile,
-              "Tilgungstabelle  : Haus\nZinstermine      : Monatsende\nNominalzins      : 4,00000 %\n"
-              "Effektivzinssatz : 4,07415 %");
+    EXPECT_THAT(AllroundberichtBilden(daten).titelzeilen,
+                ElementsAre("Tilgungstabelle  : Haus", "Zinstermine      : Monatsende",
+                            "Nominalzins      : 4,00000 %", "Effektivzinssatz : 4,07415 %"));
     EXPECT_THAT(Koepfe(AllroundberichtBilden(daten)),
                 ElementsAre("Datum", "Auszahlungen", "Zahlungen", "Zinsen", "Kontostand"));
     EXPECT_THAT(Breiten(AllroundberichtBilden(daten)), ElementsAre(10, 16, 16, 16, 16));
     daten.art = Anzeigeart::planUnterjaehrig;
     EXPECT_THAT(Koepfe(AllroundberichtBilden(daten)),
                 ElementsAre("Datum", "Vorgang", "Zahlung", "Zinsen", "Kontostand"));
+}
+
+TEST(Jahresbericht, HatDieKoepfeSeinesGitters) {
+    Jahreswerteingabe eingabe{"5", "31.12.2005"};
+    Zellentabelle tabelle;
+    ASSERT_EQ(Jahreswerttabelle(Investition(), eingabe, tabelle), std::nullopt);
+    const Bericht bericht = JahresberichtBilden("P", "5", JahresansichtBilden(tabelle));
+    EXPECT_THAT(bericht.titelzeilen,
+                ElementsAre("Barwerttabelle für alle Jahre       P", "Zins : 5,000000 %"));
+    EXPECT_THAT(Koepfe(bericht),
+                ElementsAre("Stichtag", "Barwert", "Zahlungen in t", "Delta Barwert", "Zinseffekt in t"));
+    EXPECT_THAT(Breiten(bericht), ElementsAre(10, 16, 16, 16, 16));
+    EXPECT_EQ(bericht.tabelle.zelle(1, 4), "33,66");
 }
 
 }  // namespace

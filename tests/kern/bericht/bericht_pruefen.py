@@ -2,7 +2,7 @@
 
 Each reader must find every cell of the table in its place, and the document must be well formed.
 
-Call: bericht_pruefen.py PROBE VIEW ROWS, where PROBE is the program bericht_probe. Ends with status 1 and a line for each offence.
+Call: bericht_pruefen.py PROBE KIND PAYMENTS, where PROBE is the program bericht_probe. Ends with status 1 and a line for each offence.
 """
 
 import re
@@ -88,11 +88,15 @@ def rtf_fehler(inhalt, zellen):
     rtf = Rtf(inhalt)
     fehler = list(rtf.fehler)
     koepfe = len(rtf.kopfzeilen)
+    # Behind the title lines, which go over the whole table.
+    titel = max(0, len(rtf.zeilen) - koepfe - len(zellen))
+    if any(len(z) != 1 for _, z in rtf.zeilen[:titel]):
+        fehler.append("zwischen Titel und Tabellenkopf steht etwas anderes")
     if not koepfe or not all(wiederholt for wiederholt, _ in rtf.kopfzeilen):
         fehler.append("der Tabellenkopf wird nicht auf jeder Seite wiederholt")
-    if [z for _, z in rtf.zeilen[:koepfe]] != [z for _, z in rtf.kopfzeilen]:
+    if [z for _, z in rtf.zeilen[titel:titel + koepfe]] != [z for _, z in rtf.kopfzeilen]:
         fehler.append("die erste Seite hat einen anderen Tabellenkopf als die übrigen")
-    if [z for _, z in rtf.zeilen[koepfe:]] != zellen:
+    if [z for _, z in rtf.zeilen[titel + koepfe:]] != zellen:
         fehler.append("die Zellen sind andere")
     return fehler
 
@@ -144,7 +148,7 @@ class Html(HTMLParser):
             self.zeilen[-1][1][-1] += data
         elif self.offen and self.offen[-1] == "title":
             self.titel += data
-        elif data.strip() and self.offen[-1:] not in (["pre"], ["style"]):
+        elif data.strip() and self.offen[-1:] not in (["pre"], ["style"], ["caption"]):
             self.fehler.append(f"Text zwischen den Tags: {data!r}")
 
 
@@ -162,9 +166,9 @@ def html_fehler(inhalt, zellen):
     return fehler
 
 
-def main(probe, ansicht, zeilen):
-    def aufruf(art):
-        return subprocess.run([probe, art, ansicht, zeilen], capture_output=True, check=True).stdout
+def main(probe, art, zahlungen):
+    def aufruf(format_):
+        return subprocess.run([probe, format_, art, zahlungen], capture_output=True, check=True).stdout
 
     zellen = [zeile.split("\t") for zeile in aufruf("zellen").decode("utf-8").splitlines()]
     rtf = aufruf("rtf")

@@ -76,6 +76,13 @@ TEST(HtmlBericht, DieSeitenzeileStehtImTabellenkopf) {
                           "<tr><th scope=\"col\">Datum"));
 }
 
+TEST(HtmlBericht, DerTitelIstDieUeberschriftDerTabelle) {
+    Bericht bericht = KleinerBericht();
+    bericht.titelzeilen = {"Barwert   <b>", "Zins : 7 %"};
+    EXPECT_THAT(HtmlBericht(bericht),
+                HasSubstr("<table>\n<caption>Barwert   &lt;b&gt;\nZins : 7 %</caption>\n<colgroup>"));
+}
+
 TEST(HtmlBericht, LeereKoepfeGebenKeineKopfzeile) {
     Bericht bericht = KleinerBericht();
     for (Berichtsspalte& spalte : bericht.tabelle.spalten)

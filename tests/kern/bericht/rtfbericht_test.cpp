@@ -59,6 +59,19 @@ TEST(RtfBericht, DieSeitenzeileStehtUeberDemKopfAufJederSeite) {
                                "\\ql\\f0\\fs20\\b Zeile \\{\\'fc\\}\\cell\\row\r\n"));
 }
 
+TEST(RtfBericht, DerTitelStehtEinmalUeberDerTabelle) {
+    Bericht bericht = KleinerBericht();
+    bericht.titelzeilen = {"Barwert   {ü}", "Zins : 7 %"};
+    EXPECT_THAT(RtfBericht(bericht),
+                HasSubstr("\\pard\\plain\\fs2\\par}\r\n"
+                          "\\trowd\\trgaph30\\trkeep\\cellx4320\\pard\\plain\\intbl\\ql\\f0\\fs20\\b "
+                          "Barwert   \\{\\'fc\\}\\cell\\row\r\n"
+                          "\\trowd\\trgaph30\\trkeep\\cellx4320\\pard\\plain\\intbl\\ql\\f0\\fs20\\b "
+                          "Zins : 7 %\\cell\\row\r\n"
+                          "\\trowd\\trgaph30\\trkeep\\clvertalb"));
+    EXPECT_THAT(RtfBericht(bericht), HasSubstr("{\\header\r\n\\trowd\\trgaph30\\trkeep\\trhdr\\clvertalb"));
+}
+
 TEST(RtfBericht, LeereKoepfeGebenKeineKopfzeile) {
     Bericht bericht = KleinerBericht();
     for (Berichtsspalte& spalte : bericht.tabelle.spalten)

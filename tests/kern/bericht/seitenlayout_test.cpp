@@ -180,6 +180,19 @@ TEST(Tabellenseiten, DieSeitenzeileNimmtPlatz) {
     EXPECT_EQ(layout.seiten.front(), (Berichtsseite{tabelle, 0, 37}));
 }
 
+TEST(Tabellenseiten, DerTitelNimmtPlatzAufDerErstenSeite) {
+    Bericht bericht = Tabellenbericht({5000, 5000}, 80);
+    bericht.titelzeilen = {"Barwert   Solar", "Zins : 7 %"};
+    const Seitenlayout layout = Layout(bericht);
+    EXPECT_THAT(layout.titel, ElementsAre("Barwert   Solar", "Zins : 7 %"));
+    EXPECT_EQ(layout.titelhoehe, 2 * 230 + 2 * 24);
+    // 10 906 - 326 - 508 = 36 * 278 + 64; without the title 38 rows fit.
+    EXPECT_THAT(layout.seiten, ElementsAre(Berichtsseite{tabelle, 0, 36}, Berichtsseite{tabelle, 36, 74},
+                                           Berichtsseite{tabelle, 74, 80}));
+    EXPECT_TRUE(HatTitel(layout, layout.seiten[0]));
+    EXPECT_FALSE(HatTitel(layout, layout.seiten[1]));
+}
+
 TEST(Tabellenseiten, EinLangerKopfBrichtInZeilen) {
     Bericht bericht = Tabellenbericht({720, 1440}, 40);
     bericht.tabelle.spalten[0].kopf = "Tage bis (t+1)";
@@ -266,12 +279,6 @@ TEST(Detailansicht3, FuelltDieSeiteGenau) {
     EXPECT_EQ(layout.kanten[2], 2426);
     EXPECT_EQ(layout.kanten.back(), 15838);
     EXPECT_TRUE(std::is_sorted(layout.kanten.begin(), layout.kanten.end()));
-}
-
-TEST(Seitenzeile, ZeilenvorschuebeTrennenZeilenUeberJederSeite) {
-    Bericht bericht = Tabellenbericht({5000, 5000}, 3);
-    bericht.seitenzeile = "Barwert   Solar\nZins : 7 %\n";
-    EXPECT_THAT(Layout(bericht).seitenzeile, ElementsAre("Barwert   Solar", "Zins : 7 %", ""));
 }
 
 }  // namespace
