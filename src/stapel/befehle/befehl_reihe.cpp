@@ -122,15 +122,14 @@ Ausgang Wertanalyse(Zahlungen zahlungen, const Reihenaufruf& aufruf) {
                                }};
 }
 
-/// A table whose cells are all that there is.
+/// A table whose cells are all that there is, and how its content becomes a report.
 template <typename Berichten>
 Befehlsergebnis Zellenergebnis(Zellentabelle&& zellen, Tabelleninhalt (*bilden)(const Zellentabelle&),
                                Berichten berichten) {
     const auto tabelle = Geteilt(std::move(zellen));
     return {.felder = [tabelle](JsonSchreiber& s) { TabelleSchreiben("Zeilen", *tabelle, s); },
             .tabelle = [tabelle, bilden] { return bilden(*tabelle); },
-            .bericht = [tabelle, bilden,
-                        berichten] { return AllroundberichtBilden(berichten(bilden(*tabelle))); }};
+            .bericht = [tabelle, bilden, berichten] { return berichten(bilden(*tabelle)); }};
 }
 
 Ausgang Sensitivitaet(Zahlungen zahlungen, const Reihenaufruf& aufruf) {
@@ -147,10 +146,10 @@ Ausgang Sensitivitaet(Zahlungen zahlungen, const Reihenaufruf& aufruf) {
     if (ablehnung) return std::move(*ablehnung);
     return Zellenergebnis(std::move(tabelle), SensitivitaetsansichtBilden,
                           [art = aufruf.wertart, projekt = aufruf.Projektname()](Tabelleninhalt inhalt) {
-                              return Allroundberichtsdaten{.art = Anzeigeart::sensitivitaet,
-                                                           .projekt = projekt,
-                                                           .wertart = art,
-                                                           .tabelle = std::move(inhalt)};
+                              return AllroundberichtBilden({.art = Anzeigeart::sensitivitaet,
+                                                            .projekt = projekt,
+                                                            .wertart = art,
+                                                            .tabelle = std::move(inhalt)});
                           });
 }
 
@@ -162,13 +161,11 @@ Ausgang Jahreswerte(Zahlungen zahlungen, const Reihenaufruf& aufruf) {
     Jahreswerteingabe eingabe{analyse.Abzins2, analyse.BarwDatum};
     Zellentabelle tabelle;
     if (auto ablehnung = Jahreswerttabelle(zahlungen, eingabe, tabelle)) return std::move(*ablehnung);
-    return Zellenergebnis(std::move(tabelle), JahresansichtBilden,
-                          [satz = eingabe.Abzins2, projekt = aufruf.Projektname()](Tabelleninhalt inhalt) {
-                              return Allroundberichtsdaten{.art = Anzeigeart::barwert,
-                                                           .projekt = projekt,
-                                                           .Abzins2 = satz,
-                                                           .tabelle = std::move(inhalt)};
-                          });
+    return Zellenergebnis(
+        std::move(tabelle), JahresansichtBilden,
+        [satz = eingabe.Abzins2, projekt = aufruf.Projektname()](const Tabelleninhalt& inhalt) {
+            return JahresberichtBilden(projekt, satz, inhalt);
+        });
 }
 
 Tabelleninhalt Plantabelle(const Tilgungsplan& plan, Planansicht ansicht) {

@@ -135,16 +135,23 @@ std::shared_ptr<const std::vector<Staffelsatz>> Loesung(const std::shared_ptr<co
     return {rechnung, &*rechnung->ergebnis.lauf.loesung};
 }
 
+/// Whether the form shows an effective rate without being asked for it, an empty one too.
+bool ZeigtEffektivzins(const Sparaufruf& aufruf) {
+    return aufruf.effektivmethode || aufruf.form->effektivzinsMitErgebnis ||
+           aufruf.form->ziel == Sparziel::rendite;
+}
+
 Bericht BerichtBilden(const std::shared_ptr<const Sparrechnung>& rechnung, const Sparaufruf& aufruf) {
     const Sparergebnis& ergebnis = rechnung->ergebnis;
-    return SparberichtBilden({.form = aufruf.form,
-                              .mandant = fs::path(aufruf.plandatei).filename().string(),
-                              .plan = rechnung->plan,
-                              .kapital = rechnung->stand.kapital,
-                              .ezins = ergebnis.ezins.empty() ? std::nullopt : std::optional(ergebnis.ezins),
-                              .Nzins = ergebnis.Nzins,
-                              .loesung = Loesung(rechnung),
-                              .ansicht = aufruf.ansicht});
+    return SparberichtBilden(
+        {.form = aufruf.form,
+         .mandant = fs::path(aufruf.plandatei).filename().string(),
+         .plan = rechnung->plan,
+         .kapital = ergebnis.loesung,
+         .ezins = ZeigtEffektivzins(aufruf) ? std::optional(ergebnis.ezins) : std::nullopt,
+         .Nzins = ergebnis.Nzins,
+         .loesung = Loesung(rechnung),
+         .ansicht = aufruf.ansicht});
 }
 
 std::variant<Befehlsergebnis, Ablehnung> Rechnen(Sparplan plan, const Sparaufruf& aufruf) {
@@ -157,7 +164,7 @@ std::variant<Befehlsergebnis, Ablehnung> Rechnen(Sparplan plan, const Sparaufruf
         return std::move(*ablehnung);
     if (aufruf.effektivmethode && !form.effektivzinsMitErgebnis) EffzinsRechnen(rechnung->plan, ergebnis);
     std::string nachsatz = Kennzahlen(form, ergebnis);
-    if (aufruf.effektivmethode || form.effektivzinsMitErgebnis)
+    if (ZeigtEffektivzins(aufruf))
         nachsatz += Effektivzeilen(ergebnis.ezins, static_cast<Effektivmethode>(rechnung->plan.Combo5 + 1));
     return Befehlsergebnis{
         .felder = [rechnung, &form](JsonSchreiber& s) { SparergebnisSchreiben(form, rechnung->ergebnis, s); },
