@@ -168,6 +168,13 @@ TEST(Staffelauftrag, UeberlaufIstDieAllgemeineMeldung) {
               OhneErgebnis("7", allgemeineMeldung));
 }
 
+TEST(Staffelauftrag, EinBetragKurzVorDemUeberlaufWirdGerechnet) {
+    const std::string ergebnis = Ergebnis(
+        Staffelauftrag(R"({"Datum":"31.03.2007","Betrag":1e308})", Kondition("01.01.2007"), "31.03.2007"));
+    EXPECT_THAT(ergebnis, HasSubstr(R"("Zahlbetrag":1e+308)"));
+    EXPECT_THAT(ergebnis, HasSubstr(R"("Zinsgutschrift":0,"Kontostand":1e+308}],)"));
+}
+
 TEST(Staffelauftrag, MehrZahlungenAlsEineDateiFasstSindEinFehler) {
     const auto mit = [](int anzahl) {
         std::string zahlungen = eineZahlung;

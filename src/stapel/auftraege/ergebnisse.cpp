@@ -146,9 +146,14 @@ void ZelltexteSchreiben(std::string_view name, std::span<const std::vector<std::
 
 void EndlichkeitPruefen(std::span<const Staffelsatz> zeilen) {
     for (const Staffelsatz& satz : zeilen) {
-        const double summe =
-            satz.Zahlbetrag + satz.Periodenzins + satz.Kumulzins + satz.Zinsgutschrift + satz.Kontostand;
-        if (!std::isfinite(summe)) throw Rechenfehler("Eine Zeile der Staffel ist zu groß.");
+        const Konditionen& k = satz.kondition;
+        const std::array<double, 11> zahlen{
+            satz.Zahlbetrag, satz.Periodenzins, satz.Kumulzins, satz.Zinsgutschrift,
+            satz.Kontostand, k.Gutzins1,        k.Gutzins2,     k.Guthabenlinie,
+            k.Kreditzins1,   k.Kreditzins2,     k.Kreditlinie,
+        };
+        if (!std::ranges::all_of(zahlen, [](double zahl) { return std::isfinite(zahl); }))
+            throw Rechenfehler("Eine Zeile der Staffel hat eine Zahl, die keine ist.");
     }
 }
 

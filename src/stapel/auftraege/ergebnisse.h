@@ -27,7 +27,8 @@ void SatztextSchreiben(std::string_view windows1252, JsonSchreiber& ergebnis);
 void ZelltexteSchreiben(std::string_view name, std::span<const std::vector<std::string>> zeilen,
                         JsonSchreiber& ergebnis);
 
-/// Throws a `Rechenfehler` for rows with a number that is not finite, or together too large to be one.
+/// Throws a `Rechenfehler` for a row with a number that is not finite: a record may hold one, a result may
+/// not.
 void EndlichkeitPruefen(std::span<const Staffelsatz> zeilen);
 
 /// Appends calculated rows as the field `Zeilen`: objects of the fields of a record in their order, without
