@@ -24,10 +24,11 @@ class Suchzeile : public QWidget {
     void Rechnen(std::function<void(const Suchbeobachter&)> arbeit,
                  std::function<void(const std::exception_ptr&)> abschluss);
 
+    [[nodiscard]] bool Laeuft() const { return rechnung_.Laeuft(); }
+
+  public slots:
     /// What it was asked for does not hold any more: its result never comes.
     void Aufgeben() { rechnung_.Aufgeben(); }
-
-    [[nodiscard]] bool Laeuft() const { return rechnung_.Laeuft(); }
 
   signals:
     /// The user has stopped it.

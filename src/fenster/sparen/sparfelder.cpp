@@ -1,21 +1,18 @@
 #include "fenster/sparen/sparfelder.h"
 
-#include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <array>
 
+#include "fenster/sparen/sparfeldbindung.h"
 #include "fenster/ui/bausteine.h"
 #include "fenster/ui/datumsfeld.h"
 #include "fenster/ui/feldraster.h"
-#include "fenster/ui/kalendertaste.h"
 #include "fenster/ui/meldungsfenster.h"
-#include "fenster/ui/umschalttaste.h"
 #include "kern/dates/datumtippen.h"
 #include "kern/staffel/zahlungseingabe.h"
 
@@ -23,9 +20,7 @@ namespace zinfolio {
 namespace {
 
 constexpr qsizetype laengeEinesDatums = 10;
-constexpr int abstandDerAbschnitte = 18;
-
-constexpr std::array einheiten{einheitProzent, einheitBetrag};
+constexpr int abstandDerSpalten = 18;
 
 /// The mnemonics of the tab, one owner each.
 struct Kuerzel {
@@ -39,22 +34,24 @@ constexpr std::array kuerzel{
     Kuerzel{&sparfeld::Vermendwert, 'm'},
 };
 
-QString Beschriftung(const Formzeile& zeile) {
+std::string Beschriftung(const Formzeile& zeile) {
     QString text = Anzeigetext(zeile.beschriftung).trimmed();
     const auto k = std::ranges::find(kuerzel, zeile.feld, &Kuerzel::feld);
-    if (k == kuerzel.end()) return text;
-    return text.insert(text.indexOf(QLatin1Char(k->buchstabe), 0, Qt::CaseInsensitive), '&');
-}
-
-Tastenfilter Filter(Sparfeldart art) {
-    if (art == Sparfeldart::prozent) return Tastenfilter::prozent;
-    return art == Sparfeldart::ganzzahl ? Tastenfilter::ganzzahl : Tastenfilter::betrag;
+    if (k != kuerzel.end()) text.insert(text.indexOf(QLatin1Char(k->buchstabe), 0, Qt::CaseInsensitive), '&');
+    return text.toStdString();
 }
 
 /// The calendar button of a date.
-const char* Kalendername(const Sparfeld* feld) {
+std::string_view Kalendername(const Sparfeld* feld) {
     if (feld == &sparfeld::Anfdatum) return "Command1";
     return feld == &sparfeld::ratdatum1 ? "Command2" : "Command3";
+}
+
+/// The box that lets a bound be used.
+std::string_view Haken(const Sparfeld* grenze) {
+    if (grenze == &sparfeld::DynAnz) return sparfeld::Check3.name;
+    if (grenze == &sparfeld::MaxSparrate) return sparfeld::Check4.name;
+    return grenze == &sparfeld::MinSparrate ? sparfeld::Check5.name : "";
 }
 
 /// What stands on this tab: the method of the effective rate is chosen beside the result.
@@ -62,70 +59,110 @@ bool StehtHier(const Formzeile& zeile, Sparabschnitt abschnitt) {
     return zeile.abschnitt == abschnitt && zeile.feld != &sparfeld::Combo5 && zeile.feld != &sparfeld::Check2;
 }
 
+/// The width of the captions of a section.
+int Titelbreite(const QGridLayout& raster) {
+    int breite = 0;
+    for (int zeile = 0; zeile < raster.rowCount(); ++zeile) {
+        const QLayoutItem* titel = raster.itemAtPosition(zeile, 0);
+        if (titel && titel != raster.itemAtPosition(zeile, 1))
+            breite = std::max(breite, titel->sizeHint().width());
+    }
+    return breite;
+}
+
 }  // namespace
 
-Sparfelder::Sparfelder(const Sparform& form, QWidget* eltern) : QWidget(eltern), form_(form) {
+Sparfelder::Sparfelder(const Sparform& form, QWidget* eltern) : QWidget(eltern), form_(form), felder_(this) {
     setObjectName("Frame(1)");
     auto* spalten = new QHBoxLayout;
-    spalten->setSpacing(abstandDerAbschnitte);
-    spalten->addWidget(LinkeSpalte(), 1);
-    spalten->addWidget(RechteSpalte(), 1);
+    spalten->setSpacing(abstandDerSpalten);
+    spalten->addWidget(Spalte(LinkeZeilen()), 1);
+    spalten->addWidget(Spalte(RechteZeilen()), 1);
     auto* anordnung = new QVBoxLayout(this);
     anordnung->addLayout(spalten);
     anordnung->addWidget(Tastenleiste());
     anordnung->addStretch();
-    Verdrahten();
+    for (auto* liste : findChildren<QComboBox*>()) {
+        // A long entry must not make the whole column wide.
+        constexpr int mindestzeichen = 18;
+        liste->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        liste->setMinimumContentsLength(mindestzeichen);
+    }
+    if (form.ziel == Sparziel::anspardauer) {
+        for (const Sparfeld* feld : {&sparfeld::Anfdatum, &sparfeld::ratdatum1})
+            BeimTippenHelfen(*static_cast<Datumsfeld*>(felder_.Feld(feld->name)));
+    }
+    connect(felder_.Feld(sparfeld::ratdatum1.name), &QLineEdit::textChanged, this,
+            [this](const QString& text) {
+                if (text.size() >= laengeEinesDatums) MonatsletztenAnbieten();
+            });
     Zeigen({});
 }
 
-QWidget* Sparfelder::LinkeSpalte() {
+QWidget* Sparfelder::Spalte(const Zeilen& zeilen) {
     auto* spalte = new QWidget;
     auto* anordnung = new QVBoxLayout(spalte);
     anordnung->setContentsMargins(0, 0, 0, 0);
-    anordnung->addWidget(Abschnitt("Sparplan", Sparabschnitt::plan));
-    anordnung->addWidget(Abschnitt("Zinsen und Ende", Sparabschnitt::ziel));
-    anordnung->addStretch();
-    return spalte;
-}
-
-QWidget* Sparfelder::RechteSpalte() {
-    auto* spalte = new QWidget;
-    auto* anordnung = new QVBoxLayout(spalte);
-    anordnung->setContentsMargins(0, 0, 0, 0);
-    Check2_ = NeuerHaken(*FormzeileSuchen(form_, sparfeld::Check2.name));
-    anordnung->addWidget(Check2_);
-    Frameb_ = new QWidget;
-    Frameb_->setObjectName("Frameb");
-    auto* felder = new QVBoxLayout(Frameb_);
-    felder->setContentsMargins(0, 0, 0, 0);
-    felder->addWidget(Abschnitt("Dynamisierung", Sparabschnitt::dynamisierung));
-    if (form_.dynamik == Dynamik::mitGrenzen)
-        felder->addWidget(Abschnitt("Begrenzungen", Sparabschnitt::begrenzung));
-    anordnung->addWidget(Frameb_);
-    anordnung->addStretch();
-    return spalte;
-}
-
-QWidget* Sparfelder::Abschnitt(const char* titel, Sparabschnitt abschnitt) {
-    auto* gruppe = new QGroupBox(QString::fromUtf8(titel));
     auto* raster = new Feldraster;
-    gruppe->setLayout(raster);
+    anordnung->addLayout(raster);
+    anordnung->addStretch();
+    felder_.Anlegen(zeilen, *raster);
     // The captions of one column end at one place.
-    raster->setColumnMinimumWidth(0, Beschriftungsbreite(abschnitt));
-    FelderAnlegen(*raster, abschnitt);
-    return gruppe;
+    const auto gruppen = spalte->findChildren<QGroupBox*>();
+    int breite = 0;
+    for (const auto* gruppe : gruppen)
+        breite = std::max(breite, Titelbreite(*static_cast<QGridLayout*>(gruppe->layout())));
+    for (const auto* gruppe : gruppen)
+        static_cast<QGridLayout*>(gruppe->layout())->setColumnMinimumWidth(0, breite);
+    return spalte;
 }
 
-int Sparfelder::Beschriftungsbreite(Sparabschnitt abschnitt) const {
-    const bool links = abschnitt == Sparabschnitt::plan || abschnitt == Sparabschnitt::ziel;
-    int breite = 0;
-    for (const Formzeile& zeile : form_.felder) {
-        const bool dort = zeile.abschnitt == Sparabschnitt::plan || zeile.abschnitt == Sparabschnitt::ziel;
-        if (links != dort || zeile.feld->art == Sparfeldart::haken || zeile.feld == &sparfeld::Combo5)
-            continue;
-        breite = std::max(breite, fontMetrics().horizontalAdvance(Beschriftung(zeile)));
+Sparfelder::Zeilen Sparfelder::LinkeZeilen() {
+    Zeilen zeilen;
+    AbschnittAnfuegen(zeilen, Sparabschnitt::plan, "Sparplan");
+    AbschnittAnfuegen(zeilen, Sparabschnitt::ziel, "Zinsen und Ende");
+    return zeilen;
+}
+
+Sparfelder::Zeilen Sparfelder::RechteZeilen() {
+    Zeilen zeilen{
+        Zeile(*FormzeileSuchen(form_, sparfeld::Check2.name)),
+        Rahmen<Sparplan>({.name = "Frameb", .sichtbarMit = sparfeld::Check2.name}),
+    };
+    AbschnittAnfuegen(zeilen, Sparabschnitt::dynamisierung, "Dynamisierung", "Frameb");
+    if (form_.dynamik == Dynamik::mitGrenzen)
+        AbschnittAnfuegen(zeilen, Sparabschnitt::begrenzung, "Begrenzungen", "Frameb");
+    return zeilen;
+}
+
+void Sparfelder::AbschnittAnfuegen(Zeilen& zeilen, Sparabschnitt abschnitt, std::string_view titel,
+                                   std::string_view gruppe) {
+    zeilen.push_back(Rahmen<Sparplan>({.name = titel, .titel = titel, .gruppe = gruppe}));
+    std::string_view vorher;
+    for (const Formzeile& formzeile : form_.felder) {
+        if (!StehtHier(formzeile, abschnitt)) continue;
+        Feldzeile<Sparplan> zeile = Zeile(formzeile);
+        zeile.beschreibung.gruppe = titel;
+        // What has no caption belongs to the field before it.
+        if (formzeile.beschriftung.empty()) zeile.beschreibung.hinter = vorher;
+        vorher = formzeile.feld->name;
+        zeilen.push_back(zeile);
     }
-    return breite;
+}
+
+Feldzeile<Sparplan> Sparfelder::Zeile(const Formzeile& formzeile) {
+    const Sparfeld* feld = formzeile.feld;
+    Feldzeile<Sparplan> zeile = SparfeldGebunden(*feld);
+    Feldbeschreibung& b = zeile.beschreibung;
+    b.titel = beschriftungen_.emplace_back(Beschriftung(formzeile));
+    b.einheit = formzeile.einheit;
+    b.freiMit = Haken(feld);
+    b.platzhaltend = feld == &sparfeld::Check1;
+    if (feld->art == Sparfeldart::datum) {
+        b.platzhalter = "tt.mm.jjjj";
+        b.kalender = Kalendername(feld);
+    }
+    return zeile;
 }
 
 QWidget* Sparfelder::Tastenleiste() {
@@ -146,52 +183,6 @@ QWidget* Sparfelder::Tastenleiste() {
     return leiste;
 }
 
-void Sparfelder::FelderAnlegen(Feldraster& raster, Sparabschnitt abschnitt) {
-    for (const Formzeile& zeile : form_.felder) {
-        if (!StehtHier(zeile, abschnitt)) continue;
-        switch (zeile.feld->art) {
-            case Sparfeldart::liste:
-                ListeAnlegen(zeile, raster);
-                break;
-            case Sparfeldart::haken:
-                raster.GanzeZeile(NeuerHaken(zeile));
-                break;
-            case Sparfeldart::einheit:
-                EinheitAnlegen(zeile, raster);
-                break;
-            default:
-                TextfeldAnlegen(zeile, raster);
-        }
-    }
-}
-
-void Sparfelder::TextfeldAnlegen(const Formzeile& zeile, Feldraster& raster) {
-    Eingabefeld* feld = NeuesTextfeld(zeile);
-    bindungen_.push_back(
-        {[feld, glied = zeile.feld->text](Sparplan& plan) { plan.*glied = feld->Wert(); },
-         [feld, glied = zeile.feld->text](const Sparplan& plan) { feld->Setze(plan.*glied); }});
-    connect(feld, &QLineEdit::textEdited, this, &Sparfelder::geaendert);
-    raster.Zeile(Beschriftung(zeile), feld);
-    if (auto* datumsfeld = qobject_cast<Datumsfeld*>(feld))
-        raster.Dahinter(raster.LetzteZeile(), Kalender(zeile, *datumsfeld));
-    else
-        raster.Dahinter(raster.LetzteZeile(), new QLabel(Anzeigetext(zeile.einheit), this));
-}
-
-Eingabefeld* Sparfelder::NeuesTextfeld(const Formzeile& zeile) {
-    const QString name = Anzeigetext(zeile.feld->name);
-    if (zeile.feld->art == Sparfeldart::datum) return new Datumsfeld(name, this);
-    auto* feld = new Eingabefeld(name, Filter(zeile.feld->art), this);
-    feld->setAlignment(Qt::AlignRight);
-    return feld;
-}
-
-QWidget* Sparfelder::Kalender(const Formzeile& zeile, Datumsfeld& feld) {
-    feld.setPlaceholderText("tt.mm.jjjj");
-    if (form_.ziel == Sparziel::anspardauer) BeimTippenHelfen(feld);
-    return new Kalendertaste(Kalendername(zeile.feld), feld, this);
-}
-
 /// The points come by themselves, unless a day or month of one digit is typed with its own point. A text that
 /// has become shorter was shortened by Backspace.
 void Sparfelder::BeimTippenHelfen(Datumsfeld& feld) {
@@ -205,100 +196,24 @@ void Sparfelder::BeimTippenHelfen(Datumsfeld& feld) {
     });
 }
 
-void Sparfelder::ListeAnlegen(const Formzeile& zeile, Feldraster& raster) {
-    const std::string name(zeile.feld->name);
-    QComboBox* liste = NeueAuswahl(name.c_str(), zeile.feld->eintraege, this);
-    // A long entry must not make the whole column wide.
-    constexpr int mindestzeichen = 18;
-    liste->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    liste->setMinimumContentsLength(mindestzeichen);
-    const auto glied = zeile.feld->zahl;
-    bindungen_.push_back(
-        {[liste, glied](Sparplan& plan) { plan.*glied = static_cast<std::int16_t>(liste->currentIndex()); },
-         [liste, glied](const Sparplan& plan) { liste->setCurrentIndex(plan.*glied); }});
-    connect(liste, &QComboBox::activated, this, &Sparfelder::geaendert);
-    raster.Zeile(Beschriftung(zeile), liste);
-}
-
-QCheckBox* Sparfelder::NeuerHaken(const Formzeile& zeile) {
-    auto* haken = new QCheckBox(Beschriftung(zeile), this);
-    haken->setObjectName(Anzeigetext(zeile.feld->name));
-    const auto glied = zeile.feld->zahl;
-    bindungen_.push_back({[haken, glied](Sparplan& plan) { plan.*glied = haken->isChecked() ? 1 : 0; },
-                          [haken, glied](const Sparplan& plan) { haken->setChecked(plan.*glied == 1); }});
-    connect(haken, &QCheckBox::clicked, this, &Sparfelder::geaendert);
-    if (zeile.feld == &sparfeld::Check1) Check1_ = haken;
-    return haken;
-}
-
-void Sparfelder::EinheitAnlegen(const Formzeile& zeile, Feldraster& raster) {
-    auto* taste = new Umschalttaste(Anzeigetext(zeile.feld->name), einheiten, this);
-    bindungen_.push_back(
-        {[taste](Sparplan& plan) { plan.Command6 = einheiten.at(static_cast<std::size_t>(taste->Stelle())); },
-         [taste](const Sparplan& plan) { taste->Setze(plan.Command6 == einheitBetrag ? 1 : 0); }});
-    connect(taste, &Umschalttaste::clicked, this, &Sparfelder::geaendert);
-    raster.Zeile("Einheit der Veränderung", taste);
-}
-
-void Sparfelder::Verdrahten() {
-    connect(Check2_, &QCheckBox::toggled, Frameb_, &QWidget::setVisible);
-    connect(static_cast<QLineEdit*>(Feld(sparfeld::ratdatum1)), &QLineEdit::textChanged, this,
-            [this](const QString& text) {
-                if (text.size() >= laengeEinesDatums) MonatsletztenAnbieten();
-            });
-    QSizePolicy platzhaltend = Check1_->sizePolicy();
-    platzhaltend.setRetainSizeWhenHidden(true);
-    Check1_->setSizePolicy(platzhaltend);
-    for (const Sparfeld* grenze : {&sparfeld::Check3, &sparfeld::Check4, &sparfeld::Check5}) {
-        if (auto* haken = qobject_cast<QCheckBox*>(Feld(*grenze)))
-            connect(haken, &QCheckBox::toggled, this, &Sparfelder::GrenzenFreigeben);
-    }
-}
-
-void Sparfelder::Lesen(Sparplan& plan) const {
-    for (const Bindung& bindung : bindungen_)
-        bindung.lesen(plan);
-}
-
 void Sparfelder::Zeigen(const Sparplan& plan) {
-    for (const Bindung& bindung : bindungen_)
-        bindung.zeigen(plan);
-    Frameb_->setVisible(plan.Check2 == 1);
-    GrenzenFreigeben();
+    felder_.Zeigen(plan);
     MarkeZeigen(!plan.Zinsbetrag.front().empty());
-    MonatsletztenNachLaden();
+    // While the plan has no date, its tick stays as it was.
+    if (felder_.Feld(sparfeld::ratdatum1.name)->text().size() >= laengeEinesDatums)
+        MonatsletztenAnbieten();
+    else
+        felder_.Tafel().Zeigen(sparfeld::Check1.name, false);
 }
 
 void Sparfelder::MarkeZeigen(bool sichtbar) {
     if (Image1_) Image1_->setVisible(sichtbar);
 }
 
-void Sparfelder::MonatsletztenNachLaden() {
-    const auto* datum = static_cast<const QLineEdit*>(Feld(sparfeld::ratdatum1));
-    if (datum->text().size() >= laengeEinesDatums) return MonatsletztenAnbieten();
-    Check1_->hide();
-}
-
 void Sparfelder::MonatsletztenAnbieten() {
-    const auto* datum = static_cast<const Eingabefeld*>(Feld(sparfeld::ratdatum1));
-    const bool anbieten = MonatsendeAngeboten(datum->Wert());
-    Check1_->setVisible(anbieten);
-    if (!anbieten) Check1_->setChecked(false);
-}
-
-/// A bound's field takes part only while its box is ticked.
-void Sparfelder::GrenzenFreigeben() {
-    constexpr std::array paare{std::pair(&sparfeld::Check3, &sparfeld::DynAnz),
-                               std::pair(&sparfeld::Check4, &sparfeld::MaxSparrate),
-                               std::pair(&sparfeld::Check5, &sparfeld::MinSparrate)};
-    for (const auto& [haken, grenze] : paare) {
-        if (QWidget* feld = Feld(*grenze))
-            feld->setEnabled(static_cast<QCheckBox*>(Feld(*haken))->isChecked());
-    }
-}
-
-QWidget* Sparfelder::Feld(const Sparfeld& feld) const {
-    return findChild<QWidget*>(Anzeigetext(feld.name));
+    const bool anbieten = MonatsendeAngeboten(felder_.Feld(sparfeld::ratdatum1.name)->Wert());
+    felder_.Tafel().Zeigen(sparfeld::Check1.name, anbieten);
+    if (!anbieten) felder_.Tafel().Setze(sparfeld::Check1.name, {});
 }
 
 }  // namespace zinfolio

@@ -1,20 +1,17 @@
 #pragma once
 
 #include <QWidget>
-#include <functional>
+#include <deque>
 #include <vector>
 
+#include "fenster/ui/feldtafel.h"
 #include "kern/sparen/sparform.h"
 
-class QCheckBox;
 class QLabel;
-class QPushButton;
 
 namespace zinfolio {
 
 class Datumsfeld;
-class Eingabefeld;
-class Feldraster;
 
 /// The tab "Daten" of a savings calculator: the fields that its form has, in sections. They hold the plan as
 /// texts and choices; nothing is calculated here.
@@ -24,56 +21,40 @@ class Sparfelder : public QWidget {
   public:
     explicit Sparfelder(const Sparform& form, QWidget* eltern);
 
-    /// Fills the members of `plan` that have a field here; the others stay.
-    void Lesen(Sparplan& plan) const;
+    /// `plan` with what the fields hold; the members without a field here stay.
+    [[nodiscard]] Sparplan Lesen(const Sparplan& plan) const { return felder_.Lesen(plan); }
 
     /// Shows a plan in all fields.
     void Zeigen(const Sparplan& plan);
 
-    /// Offers the month-end rule after a plan was loaded: while it has no date, its tick stays as it was.
-    void MonatsletztenNachLaden();
-
     /// Whether the plan holds rate changes (`Image1(1)`).
     void MarkeZeigen(bool sichtbar);
 
+    /// What tells that the user changes a field.
+    [[nodiscard]] Feldtafel& Tafel() const { return felder_.Tafel(); }
+
   signals:
-    /// The user has changed something.
-    void geaendert();
     void berechnenVerlangt();
     void zinstabelleVerlangt();
 
   private:
-    /// Ways between a control and the member of the plan that it shows.
-    struct Bindung {
-        std::function<void(Sparplan&)> lesen;
-        std::function<void(const Sparplan&)> zeigen;
-    };
+    using Zeilen = std::vector<Feldzeile<Sparplan>>;
 
-    [[nodiscard]] QWidget* LinkeSpalte();
-    [[nodiscard]] QWidget* RechteSpalte();
-    [[nodiscard]] QWidget* Abschnitt(const char* titel, Sparabschnitt abschnitt);
-    /// Room for the captions of the column in which a section stands.
-    [[nodiscard]] int Beschriftungsbreite(Sparabschnitt abschnitt) const;
+    [[nodiscard]] QWidget* Spalte(const Zeilen& zeilen);
+    [[nodiscard]] Zeilen LinkeZeilen();
+    [[nodiscard]] Zeilen RechteZeilen();
+    /// Adds the fields of a section in a frame of their own.
+    void AbschnittAnfuegen(Zeilen& zeilen, Sparabschnitt abschnitt, std::string_view titel,
+                           std::string_view gruppe = {});
+    [[nodiscard]] Feldzeile<Sparplan> Zeile(const Formzeile& zeile);
     [[nodiscard]] QWidget* Tastenleiste();
-    void FelderAnlegen(Feldraster& raster, Sparabschnitt abschnitt);
-    void TextfeldAnlegen(const Formzeile& zeile, Feldraster& raster);
-    void ListeAnlegen(const Formzeile& zeile, Feldraster& raster);
-    [[nodiscard]] QCheckBox* NeuerHaken(const Formzeile& zeile);
-    void EinheitAnlegen(const Formzeile& zeile, Feldraster& raster);
-    [[nodiscard]] Eingabefeld* NeuesTextfeld(const Formzeile& zeile);
-    [[nodiscard]] QWidget* Kalender(const Formzeile& zeile, Datumsfeld& feld);
     void BeimTippenHelfen(Datumsfeld& feld);
-    void Verdrahten();
     void MonatsletztenAnbieten();
-    void GrenzenFreigeben();
-    [[nodiscard]] QWidget* Feld(const Sparfeld& feld) const;
 
     const Sparform& form_;
-    std::vector<Bindung> bindungen_;
-    QCheckBox* Check1_ = nullptr;
-    QCheckBox* Check2_ = nullptr;
-    /// The panel of the dynamisation, visible exactly while `Check2` is ticked.
-    QWidget* Frameb_ = nullptr;
+    /// The captions with their mnemonics; the rows only look at them.
+    std::deque<std::string> beschriftungen_;
+    Feldgruppe<Sparplan> felder_;
     QLabel* Image1_ = nullptr;
 };
 

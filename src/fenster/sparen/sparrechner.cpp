@@ -114,7 +114,7 @@ RegisterBerechnung* Sparrechner::NeuerAuszug() {
 
 std::vector<Registerzeile> Sparrechner::Registerzeilen() {
     std::vector<Registerzeile> zeilen{
-        {.seite = felder_, .titel = "Daten", .rollbar = true},
+        {.seite = felder_, .titel = "Daten", .rollbar = true, .eingabe = true},
         {.seite = auszug_, .titel = "Berechnen", .betreten = [this] { Berechnen(); }},
         {.seite = notizen_, .titel = "Notizen", .betreten = [this] { notizen_->setFocus(); }},
     };
@@ -155,13 +155,14 @@ Planindex Sparrechner::Index(const Planverzeichnis& plaene) {
 }
 
 void Sparrechner::Verdrahten() {
-    connect(felder_, &Sparfelder::geaendert, this, [this] { EingabeGeaendert(); });
+    connect(&felder_->Tafel(), &Feldtafel::bearbeitet, suche_, &Suchzeile::Aufgeben);
     connect(suche_, &Suchzeile::abgebrochen, this, [this] { RegisterZeigen(felder_); });
     connect(felder_, &Sparfelder::berechnenVerlangt, this, [this] { RegisterWaehlen(auszug_); });
     connect(auszug_, &RegisterBerechnung::effektivzinsVerlangt, this, &Sparrechner::EffzinsBerechnen);
     connect(auszug_, &RegisterBerechnung::methodeGewaehlt, this, [this] {
         const bool gesucht = suche_->Laeuft();
-        EingabeGeaendert();
+        Geaendert();
+        suche_->Aufgeben();
         if (gesucht) return Berechnen();
         // One form waits for its button.
         if (effzinsGezeigt_ && form_.dynamik != Dynamik::einfach) EffzinsBerechnen();
@@ -169,20 +170,19 @@ void Sparrechner::Verdrahten() {
     connect(auszug_, &RegisterBerechnung::druckenVerlangt, this,
             [this] { Drucken([this] { return SparberichtBilden(Berichtsdaten()); }); });
     connect(auszug_, &RegisterBerechnung::grafikVerlangt, this, &Sparrechner::GrafikZeigen);
-    connect(notizen_, &RegisterNotizen::inhaltGeaendert, this, [this] { Geaendert(); });
     if (!zinstabelle_) return;
     connect(felder_, &Sparfelder::zinstabelleVerlangt, this, [this] {
         SeiteZeigen(zinstabelle_);
         zinstabelle_->Fokussieren(Zinszeilenname(0, Zinsspalte::datum));
     });
-    connect(zinstabelle_, &Zinstabellenseite::geaendert, this, [this] { EingabeGeaendert(); });
+    connect(zinstabelle_, &Zinstabellenseite::geaendert, this, [this] { Geaendert(); });
+    connect(zinstabelle_, &Zinstabellenseite::geaendert, suche_, &Suchzeile::Aufgeben);
     connect(zinstabelle_, &Zinstabellenseite::markiert, felder_, &Sparfelder::MarkeZeigen);
     connect(zinstabelle_, &Zinstabellenseite::zurueck, this, [this] { RegisterZeigen(felder_); });
 }
 
 Sparplan Sparrechner::Lesen() const {
-    Sparplan plan;
-    felder_->Lesen(plan);
+    Sparplan plan = felder_->Lesen({});
     plan.Combo5 = static_cast<std::int16_t>(static_cast<int>(auszug_->GewaehlteEffektivmethode()) - 1);
     if (zinstabelle_) zinstabelle_->Lesen(plan);
     return plan;
@@ -205,12 +205,6 @@ void Sparrechner::PlanLaden(int nummer) {
 
 void Sparrechner::Speicherung(int nummer) {
     dateien_.Speichern(static_cast<std::size_t>(nummer), Lesen(), notizen_->AlsDatei());
-}
-
-/// What is being searched for is not what the fields ask any more.
-void Sparrechner::EingabeGeaendert() {
-    suche_->Aufgeben();
-    Geaendert();
 }
 
 void Sparrechner::Berechnen() {

@@ -39,7 +39,6 @@ class Sparrechner : public Rechner {
     void PlanLaden(int nummer);
     void Speicherung(int nummer);
 
-    void EingabeGeaendert();
     void Berechnen();
     /// Shows what became of a calculation.
     void Abschliessen(Sparrechnung& rechnung, const std::exception_ptr& fehler);
