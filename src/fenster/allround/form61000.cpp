@@ -23,7 +23,8 @@ constexpr Zahlungsregisterart zahlungsregister{.form = Zahlungsregisterart::reih
                                                .nullbetrag = Nullbetrag::erlaubt,
                                                .nummernkopf = "",
                                                .folgemuster = Zahlmuster::Lesen("###,##0.00"),
-                                               .serieBleibt = true};
+                                               .serieBleibt = true,
+                                               .neuSchreibenLeert = true};
 
 Rechnerart Art() {
     return {.name = "Form61000",
@@ -136,12 +137,14 @@ Projektart Form61000::Projektbeschreibung() {
         .laden = [this](const auto& datei, Leseanlass anlass) { Laden(datei, anlass); },
         .speichern =
             [this](const auto& datei) {
-                ReihenprojektSpeichern(dateien_.Ordner(), datei, NameOhneEndung(), notizen_->AlsDatei());
+                ReihenprojektSpeichern(dateien_.Ordner(), datei, Projektname().toStdString(),
+                                       notizen_->AlsDatei());
             },
         .ordnen = [this] { (void)dateien_.ZahlungenSortieren(); },
         .aufbau = &Reihenprojektaufbau(),
         .befunde = [this] { return befunde_; },
         .neuFragt = false,
+        .mitEndung = false,
     };
 }
 
@@ -202,11 +205,6 @@ void Form61000::Neu() {
     plan_->Leeren();
     stand_.PlanAngezeigt = false;
     notizen_->Oeffnen({});
-}
-
-std::string Form61000::NameOhneEndung() const {
-    constexpr int endung = 4;
-    return Projektname().chopped(std::min<qsizetype>(endung, Projektname().size())).toStdString();
 }
 
 void Form61000::Laden(const std::filesystem::path& datei, Leseanlass anlass) {

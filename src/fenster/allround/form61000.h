@@ -38,7 +38,6 @@ class Form61000 : public Rechner {
 
     void Neu();
     void Laden(const std::filesystem::path& datei, Leseanlass anlass);
-    [[nodiscard]] std::string NameOhneEndung() const;
 
     void EffektivzinsRechnen();
     void WerteBetreten(Wertart art);

@@ -34,10 +34,8 @@ class FormSatzliste : public QObject {
     [[nodiscard]] Tabelle* Ansicht() const { return tabelle_; }
     [[nodiscard]] const std::vector<Staffelsatz>& Saetze() const { return saetze_; }
 
-    /// Reads the file and shows it, with its last row selected. A row under change follows its record.
-    void NeuLesen();
-
-    /// The same where the user did nothing to the list: selected rows follow their records, too.
+    /// Reads the file and shows it, where the user did nothing to the list: selected rows, and the one under
+    /// change, follow their records.
     void Auffrischen();
 
     /// Another account stands in the file: reads it, and nothing deleted before comes back.
@@ -84,6 +82,8 @@ class FormSatzliste : public QObject {
 
     [[nodiscard]] std::optional<std::size_t> Stelle(const Staffelsatz& satz) const;
     void Lesen();
+    /// Reads the file and shows it, with its last row selected.
+    void NeuLesen();
     void Zeigen();
     void Loeschen(const std::vector<std::size_t>& zeilen);
     void SchrittMerken(Schritt schritt);

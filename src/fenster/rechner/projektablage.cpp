@@ -50,7 +50,8 @@ QMenu* Projektablage::NeuesMenue() {
 }
 
 QString Projektablage::Name() const {
-    return datei_ ? QString::fromStdString(datei_->filename().string()) : QString();
+    if (!datei_) return {};
+    return QString::fromStdString((art_.mitEndung ? datei_->filename() : datei_->stem()).string());
 }
 
 QString Projektablage::Ordner() const {

@@ -43,6 +43,8 @@ struct Projektart {
     std::function<std::vector<Befund>()> befunde = {};
     /// Whether beginning anew asks before it gives up unsaved changes.
     bool neuFragt = true;
+    /// Whether the project is shown with the ending of its file.
+    bool mitEndung = true;
 };
 
 /// A project in files that the user names: new, open, save, save as.

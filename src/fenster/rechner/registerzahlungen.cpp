@@ -221,6 +221,7 @@ void RegisterZahlungen::Einlesen(Einleser einleser) {
 void RegisterZahlungen::Verdrahten() {
     EinlesenAnlegen();
     liste_.nachLesen = [this] {
+        if (art_.neuSchreibenLeert && !liste_.Geaendert() && !liste_.Saetze().empty()) return Zeigen({});
         felder_.Feld("Ratzahl")->setText("1");
         felder_.Feld("Abstand")->setText("1");
     };
@@ -234,10 +235,6 @@ void RegisterZahlungen::Zeigen(const Zahlungseingabe& eingabe) {
     felder_.Zeigen(eingabe);
     AenderungsmodusSetzen(liste_.Geaendert().has_value());
     MonatsendeAnbieten();
-}
-
-void RegisterZahlungen::NeuSchreiben() {
-    liste_.NeuLesen();
 }
 
 void RegisterZahlungen::Auffrischen() {

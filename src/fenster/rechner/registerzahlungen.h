@@ -26,6 +26,8 @@ struct Zahlungsregisterart {
     Zahlmuster folgemuster = vorschaumuster;
     /// A change that ends empties the payment's own fields only, not those of the series.
     bool serieBleibt = false;
+    /// Each time that the list is built anew from its rows, all fields are emptied.
+    bool neuSchreibenLeert = false;
 };
 
 /// The tab "Zahlungen": single payments, series with stages and their preview, and the list of all payments.
@@ -34,9 +36,6 @@ class RegisterZahlungen : public QWidget {
 
   public:
     RegisterZahlungen(const Zahlungsregisterart& art, const Satzdatei<Staffelsatz>& datei, QWidget* eltern);
-
-    /// `NeuSchreiben`: shows what the file holds and sets the series fields to their start values.
-    void NeuSchreiben();
 
     /// Shows what the file holds; what the user has typed, marked and begun stays.
     void Auffrischen();
