@@ -19,6 +19,8 @@ QWidget* Eingabezeile::Feld(const char* beschriftung, QWidget* feld, const char*
     auto* titel = new QLabel(QString::fromUtf8(beschriftung), gruppe);
     titel->setBuddy(feld);
     anordnung->addWidget(titel);
+    // A field does not grow with the window: rates and dates are short.
+    feld->setSizePolicy(QSizePolicy::Maximum, feld->sizePolicy().verticalPolicy());
     anordnung->addWidget(feld);
     if (*einheit != '\0') anordnung->addWidget(new QLabel(QString::fromUtf8(einheit), gruppe));
     zeile_->addWidget(gruppe);

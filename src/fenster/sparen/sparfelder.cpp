@@ -59,13 +59,13 @@ bool StehtHier(const Formzeile& zeile, Sparabschnitt abschnitt) {
     return zeile.abschnitt == abschnitt && zeile.feld != &sparfeld::Combo5 && zeile.feld != &sparfeld::Check2;
 }
 
-/// The width of the captions of a section.
-int Titelbreite(const QGridLayout& raster) {
+/// The width that a column beside the fields of a section needs; what takes a whole row does not count.
+int Spaltenbreite(const QGridLayout& raster, int spalte) {
     int breite = 0;
     for (int zeile = 0; zeile < raster.rowCount(); ++zeile) {
-        const QLayoutItem* titel = raster.itemAtPosition(zeile, 0);
-        if (titel && titel != raster.itemAtPosition(zeile, 1))
-            breite = std::max(breite, titel->sizeHint().width());
+        const QLayoutItem* element = raster.itemAtPosition(zeile, spalte);
+        if (element && element != raster.itemAtPosition(zeile, 1))
+            breite = std::max(breite, element->sizeHint().width());
     }
     return breite;
 }
@@ -100,20 +100,23 @@ Sparfelder::Sparfelder(const Sparform& form, QWidget* eltern) : QWidget(eltern),
 }
 
 QWidget* Sparfelder::Spalte(const Zeilen& zeilen) {
-    auto* spalte = new QWidget;
+    auto* spalte = new QWidget(this);
     auto* anordnung = new QVBoxLayout(spalte);
     anordnung->setContentsMargins(0, 0, 0, 0);
     auto* raster = new Feldraster;
     anordnung->addLayout(raster);
     anordnung->addStretch();
     felder_.Anlegen(zeilen, *raster);
-    // The captions of one column end at one place.
+    // Captions and fields of one column end at one place, in whichever section they stand.
     const auto gruppen = spalte->findChildren<QGroupBox*>();
-    int breite = 0;
-    for (const auto* gruppe : gruppen)
-        breite = std::max(breite, Titelbreite(*static_cast<QGridLayout*>(gruppe->layout())));
-    for (const auto* gruppe : gruppen)
-        static_cast<QGridLayout*>(gruppe->layout())->setColumnMinimumWidth(0, breite);
+    for (const int rasterspalte : {0, 2}) {
+        int breite = 0;
+        for (const auto* gruppe : gruppen)
+            breite =
+                std::max(breite, Spaltenbreite(static_cast<QGridLayout&>(*gruppe->layout()), rasterspalte));
+        for (const auto* gruppe : gruppen)
+            static_cast<QGridLayout*>(gruppe->layout())->setColumnMinimumWidth(rasterspalte, breite);
+    }
     return spalte;
 }
 
@@ -189,6 +192,8 @@ void Sparfelder::BeimTippenHelfen(Datumsfeld& feld) {
     connect(&feld, &QLineEdit::textEdited, this, [&feld, vorher = qsizetype{0}](const QString& text) mutable {
         const int taste = text.size() < vorher ? tasteRueck : 0;
         vorher = text.size();
+        // A point typed behind the one that came by itself.
+        if (text.endsWith("..")) return feld.setText(text.chopped(1));
         if (text.mid(1, 1) == "." || text.mid(4, 1) == ".") return;
         const std::string getippt = DatumTippen(text.toStdString(), taste);
         if (getippt != text.toStdString()) feld.Setze(getippt);

@@ -196,6 +196,29 @@ class SparrechnerTest : public QObject {
         QCOMPARE(Finde<QLineEdit>(stand.form.get(), "Anfdatum")->text(), "0");
     }
 
+    void getippterPunktHinterDemVonSelbstGekommenenZaehltNicht() {
+        Pruefstand<Form96000> stand;
+        Fuelle(*stand.form, "Anfdatum", "28.02.2007");
+        QCOMPARE(Finde<QLineEdit>(stand.form.get(), "Anfdatum")->text(), "28.02.2007");
+    }
+
+    void tabGehtDurchAlleFelderVonObenNachUnten() {
+        Pruefstand<Form90000> stand;
+        QTest::keyClick(Finde<QCheckBox>(stand.form.get(), "Check2"), Qt::Key_Space);
+        for (const char* haken : {"Check3", "Check4", "Check5"})
+            Finde<QCheckBox>(stand.form.get(), haken)->click();
+        Fuelle(*stand.form, "ratdatum1", "28.2.2001");
+        Beginne(*stand.form, "AnfVermögen");
+        const QStringList weg = Gang(Qt::Key_Tab);
+        QCOMPARE(weg.mid(0, 25).join(", "),
+                 (QStringList{"AnfVermögen", "Anfdatum", "Command1",    "ratdatum1", "Command2",
+                              "Betrag",      "Combo1",   "Check1",      "Zins",      "Combo2",
+                              "Combo4",      "Enddatum", "Command3",    "Check2",    "Anzahl",
+                              "Delta",       "Delta2",   "Check3",      "DynAnz",    "Check4",
+                              "MaxSparrate", "Check5",   "MinSparrate", "Command6",  "Zinssatzänderungen"})
+                     .join(", "));
+    }
+
     void einzelneZiffernBekommenIhrePunkteVonHand() {
         Pruefstand<Form96000> stand;
         Fuelle(*stand.form, "Anfdatum", "1.2.2007");
