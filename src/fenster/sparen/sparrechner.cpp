@@ -11,6 +11,7 @@
 #include "fenster/sparen/sparfelder.h"
 #include "fenster/sparen/zinstabellenseite.h"
 #include "fenster/tabellen/kurzfenster.h"
+#include "fenster/ui/geschuetzt.h"
 #include "fenster/ui/meldungsfenster.h"
 #include "kern/dates/zahlformat.h"
 #include "kern/sparen/sekantensuche.h"
@@ -137,7 +138,8 @@ Planart Sparrechner::Plaene() {
         .nichtGespeichert = "Der Sparplan konnte nicht gespeichert werden.",
         .verzeichnisLesen =
             [this] {
-                const Planindex index = dateien_.IndexLesen();
+                Planindex index;
+                if (!Geschuetzt(this, [&] { index = dateien_.IndexLesen(); })) index = dateien_.IndexRetten();
                 return Planverzeichnis{{index.namen.begin(), index.namen.end()}, index.aktuell};
             },
         .namenSchreiben = [this](const Planverzeichnis& plaene) { dateien_.NamenSchreiben(Index(plaene)); },

@@ -6,6 +6,7 @@
 #include "kern/dateien/ganzedatei.h"
 #include "kern/dateien/satzdatei.h"
 #include "kern/dates/textteile.h"
+#include "kern/grund/windows1252.h"
 #include "kern/sparen/meldungen.h"
 
 namespace zinfolio {
@@ -30,6 +31,18 @@ void Anlegen(const std::filesystem::path& datei) {
 /// A number in a file's name takes a blank in the place of its sign.
 std::string MitNummer(std::string_view name, std::size_t nummer) {
     return std::string(name) + " " + std::to_string(nummer);
+}
+
+/// The name at the head of a record, as far as it is one.
+std::string LesbarerName(std::string_view satz) {
+    constexpr std::size_t kopf = 2;
+    if (satz.size() < kopf) return std::string(meldung::unbenannt);
+    const auto laenge = static_cast<std::size_t>(static_cast<unsigned char>(satz[0]) +
+                                                 256 * static_cast<unsigned char>(satz[1]));
+    const std::string_view name = satz.substr(kopf, laenge);
+    const bool lesbar = laenge > 0 && kopf + laenge <= satzlaenge && name.size() == laenge &&
+                        std::ranges::none_of(name, [](char c) { return c >= 0 && c < ' '; });
+    return lesbar ? NachUtf8(name) : std::string(meldung::unbenannt);
 }
 
 }  // namespace
@@ -62,6 +75,15 @@ Planindex Plandateien::IndexLesen() const {
     for (std::string& name : index.namen) {
         if (name.empty()) name = meldung::unbenannt;
     }
+    return index;
+}
+
+Planindex Plandateien::IndexRetten() const {
+    const std::string bytes = GanzeDateiLesen(Indexpfad(), groessteNotiz);
+    AtomarSchreiben(Indexpfad() += " beschädigt", bytes, Sicherung::Dauerhaft);
+    Planindex index;
+    for (std::size_t k = 0; k < plaenejeForm; ++k)
+        index.namen[k] = LesbarerName(std::string_view(bytes).substr(std::min(bytes.size(), k * satzlaenge)));
     return index;
 }
 

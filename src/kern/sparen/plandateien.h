@@ -33,6 +33,9 @@ class Plandateien {
 
     /// A missing index is created empty.
     [[nodiscard]] Planindex IndexLesen() const;
+    /// What a damaged index still holds: the names that can be read. Leaves a copy of it beside it, since the
+    /// next one to be written takes its place.
+    [[nodiscard]] Planindex IndexRetten() const;
     /// Writes all names and the current plan.
     void IndexSchreiben(const Planindex& index) const;
     /// Writes all names; what the file holds behind them stays as it is.

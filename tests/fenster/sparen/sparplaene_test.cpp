@@ -1,8 +1,11 @@
 // Named plans and the table of rate changes.
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QTextEdit>
+#include <cstring>
 
 #include "fenster/formhelfer.h"
 #include "fenster/sparen/sparrechner.h"
@@ -84,6 +87,83 @@ class SparplaeneTest : public QObject {
         QCOMPARE(zeuge.texte.size(), 1);
         QCOMPARE(Plaene(*stand.form).currentIndex(), 0);
         QCOMPARE(Feldtext(*stand.form, "Betrag"), "55");
+    }
+
+    void hundertPlaeneStehenZurWahl() {
+        Pruefstand<Form90000> stand;
+        PlanWaehlen(*stand.form, 99);
+        Fuelle(*stand.form, "Betrag", "100,99");
+        Waehle(*stand.form, 2);
+        Tippe("letzter");
+        stand.Taste(Qt::Key_S);
+        QVERIFY(std::filesystem::exists(stand.arbeit.Pfad() / "VEWertneu 100"));
+        QVERIFY(Inhalt(stand.arbeit.Pfad() / "VEWertDatenneuR 99").find("letzter") != std::string::npos);
+        stand.Oeffnen();
+        QCOMPARE(Plaene(*stand.form).currentIndex(), 99);
+        QCOMPARE(Feldtext(*stand.form, "Betrag"), "100,99");
+        PlanWaehlen(*stand.form, 98);
+        QCOMPARE(Feldtext(*stand.form, "Betrag"), "");
+        QCOMPARE(Finde<QTextEdit>(stand.form.get(), "RT")->toPlainText(), "");
+    }
+
+    void wechselNenntAlleUnbenanntenPlaene() {
+        Pruefstand<Form90000> stand;
+        PlanWaehlen(*stand.form, 1);
+        const std::string index = Inhalt(stand.arbeit.Pfad() / "VEWertDatenneu");
+        QCOMPARE(index.substr(99 * 500, 17), std::string("\x0F\x00Neu / unbenannt", 17));
+        QCOMPARE(index.substr(100 * 500, 2), std::string("\x01\x00", 2));
+    }
+
+    void aeltererPlanOhneSpaetereSaetze() {
+        Pruefstand<Form90000> stand;
+        const auto satz = [](std::string anfang) {
+            anfang.resize(500, '\0');
+            return anfang;
+        };
+        std::string datei;
+        for (const char* text : {"1000", "01.01.2007", "01.02.2007", "55"})
+            datei += satz(std::string("\x08\x00", 2) + static_cast<char>(std::strlen(text)) + '\0' + text);
+        for (int nummer = 5; nummer < 15; ++nummer)
+            datei += satz("");
+        datei += satz(std::string("\x08\x00\x01\x00%", 5));
+        std::ofstream(stand.arbeit.Pfad() / "VEWertneu 8", std::ios::binary) << datei;
+        const Zeuge zeuge;
+        PlanWaehlen(*stand.form, 7);
+        QCOMPARE(zeuge.texte, QStringList());
+        QCOMPARE(Feldtext(*stand.form, "Betrag"), "55");
+        QCOMPARE(Feldtext(*stand.form, "Delta2"), "0");
+        QCOMPARE(Finde<QComboBox>(stand.form.get(), "Combo4")->currentText(), "Jahresende");
+        for (const char* haken : {"Check3", "Check4", "Check5"})
+            QVERIFY(!Finde<QCheckBox>(stand.form.get(), haken)->isChecked());
+        QCOMPARE(Feldtext(*stand.form, "ZinsWDAt(40)"), "");
+    }
+
+    void beschaedigtesVerzeichnisWirdGemeldetUndDiePlaeneBleiben() {
+        Pruefstand<Form90000> stand;
+        Fuelle(*stand.form, "Betrag", "55");
+        stand.Taste(Qt::Key_S);
+        QLineEdit* name = Plaene(*stand.form).lineEdit();
+        name->setFocus();
+        name->selectAll();
+        Tippe("Haus");
+        const auto pfad = stand.arbeit.Pfad() / "VEWertDatenneu";
+        std::string index = Inhalt(pfad);
+        index.replace(500, 2, "\xFF\xFF");
+        std::ofstream(pfad, std::ios::binary) << index;
+        {
+            const Zeuge zeuge;
+            stand.Oeffnen();
+            QCOMPARE(zeuge.texte.size(), 1);
+            QVERIFY(zeuge.texte[0].startsWith("Bitte überprüfen Sie Ihre Angaben."));
+            QVERIFY(zeuge.einzelheiten[0].contains("VEWertDatenneu"));
+        }
+        QCOMPARE(Plaene(*stand.form).currentText(), "Haus");
+        QCOMPARE(Feldtext(*stand.form, "Betrag"), "55");
+        QCOMPARE(Inhalt(stand.arbeit.Pfad() / "VEWertDatenneu beschädigt"), index);
+        PlanWaehlen(*stand.form, 1);
+        const Zeuge zeuge;
+        stand.Oeffnen();
+        QCOMPARE(zeuge.texte, QStringList());
     }
 
     void notizenJePlan() {

@@ -211,6 +211,22 @@ TEST_F(Plandateien_, BeschaedigteDateiIstEinFehler) {
     EXPECT_THROW(static_cast<void>(Dateien().Laden(0)), Dateifehler);
 }
 
+TEST_F(Plandateien_, AusEinemBeschaedigtenVerzeichnisBleibenDieLesbarenNamen) {
+    const std::string bytes = Satz(std::string("\x03\x00", 2) + "Uwe") + Satz("\xFF\xFF") +
+                              Satz(std::string("\x02\x00", 2) + "\xDC" + "b") +
+                              Satz(std::string("\x02\x00\x07\x07", 4));
+    Schreibe("VEWertDatenneu", bytes);
+    EXPECT_THROW(static_cast<void>(Dateien().IndexLesen()), Dateifehler);
+    const Planindex index = Dateien().IndexRetten();
+    EXPECT_EQ(index.namen[0], "Uwe");
+    EXPECT_EQ(index.namen[1], "Neu / unbenannt");
+    EXPECT_EQ(index.namen[2], "Üb");
+    EXPECT_EQ(index.namen[3], "Neu / unbenannt");
+    EXPECT_EQ(index.namen[99], "Neu / unbenannt");
+    EXPECT_EQ(index.aktuell, 0);
+    EXPECT_EQ(Bytes("VEWertDatenneu beschädigt"), bytes);
+}
+
 TEST_F(Plandateien_, RechnungHinterlaesstIhreDateien) {
     RechneUndLege(Sparziel::endkapital, Plan2007());
     EXPECT_EQ(Bytes("Zinsstaffel1").size(), 12U * 129);

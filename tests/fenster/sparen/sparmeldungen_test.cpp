@@ -1,0 +1,161 @@
+// What each savings calculator refuses: the words, and the field that is ready to be typed over then.
+
+#include <QCheckBox>
+#include <QLabel>
+
+#include "fenster/formhelfer.h"
+#include "fenster/sparen/sparrechner.h"
+
+using namespace zinfolio;
+
+namespace {
+
+/// A plan that can be calculated, and what is wrong with it.
+struct Fall {
+    const char* name;
+    Sparziel ziel;
+    /// Fields by their names with their texts; a box is ticked by "x".
+    std::vector<std::pair<const char*, const char*>> angaben;
+    const char* meldung;
+    /// Empty: none.
+    const char* feld;
+};
+
+constexpr const char* keinSpardatum = "Bitte das 1. Spardatum eingeben.";
+constexpr const char* keinAnfangsdatum = "Bitte das Anfangsdatum eingeben";
+constexpr const char* keinEnddatum = "Bitte das Enddatum eingeben";
+constexpr const char* keinZins = "Bitte den Zinssatz eingeben";
+constexpr const char* rateVorAnfang =
+    "Das Datum der 1. Sparrate darf nicht vor dem Datum für das Anfangsvermögen liegen.";
+constexpr const char* endeVorAnfang = "Das Enddatum muss nach dem Anfangsdatum liegen.";
+constexpr const char* zuLang = "Zwischen End- und Anfangsdatum dürfen nur bis zu 150 Jahre liegen.";
+constexpr const char* zuGering =
+    "Die Differenz zwischen Anfangs- und Endvermögen ist für die Berechnung zu gering.";
+constexpr const char* ohneAnzahl =
+    "Sie haben Dynamisierung gewählt. Die Anzahl der Zahlungen,nach denen eine Anpassung der Sparrate "
+    "erfolgt, muss grösser als '0' sein.";
+constexpr const char* ohneStufen =
+    "Sie haben Dynamisierung gewählt. Die Anzahl der Dynamisierungsstufen muss bei einer Begrenzug größer "
+    "als '0' sein. ";
+constexpr const char* maximumZuKlein = "Der maximale Sparbetrag muss größer sein als der Anfangssparbetrag";
+constexpr const char* minimumZuGross = "Der minimale Sparbetrag muss kleiner sein als der Anfangssparbetrag";
+constexpr const char* keineLoesung =
+    "Es wurde keine Lösung gefunden. Heben Sie die Begrenzungen für die Höhe der Sparraten auf oder "
+    "Verändern Sie deren Werte.";
+
+using enum Sparziel;
+
+const std::vector<Fall> faelle{
+    {"90000 Spardatum", endkapital, {{"ratdatum1", ""}}, keinSpardatum, "ratdatum1"},
+    {"90000 Anfangsdatum", endkapital, {{"Anfdatum", ""}}, keinAnfangsdatum, "Anfdatum"},
+    {"90000 Enddatum", endkapital, {{"Enddatum", ""}}, keinEnddatum, "Enddatum"},
+    {"90000 Zins", endkapital, {{"Zins", ""}}, keinZins, "Zins"},
+    {"90000 Rate vor Anfang", endkapital, {{"ratdatum1", "31.12.2006"}}, rateVorAnfang, "ratdatum1"},
+    {"90000 Ende am Anfang", endkapital, {{"Enddatum", "1.1.2007"}}, endeVorAnfang, "Enddatum"},
+    {"90000 151 Jahre", endkapital, {{"Enddatum", "1.1.2158"}}, zuLang, "Enddatum"},
+    {"90000 Anzahl", endkapital, {{"Check2", "x"}}, ohneAnzahl, "Anzahl"},
+    {"90000 Stufen", endkapital, {{"Check2", "x"}, {"Anzahl", "1"}, {"Check3", "x"}}, ohneStufen, "DynAnz"},
+    {"90000 Maximum",
+     endkapital,
+     {{"Check2", "x"}, {"Anzahl", "1"}, {"Check4", "x"}, {"MaxSparrate", "100"}},
+     maximumZuKlein,
+     "MaxSparrate"},
+    {"90000 Minimum",
+     endkapital,
+     {{"Check2", "x"}, {"Anzahl", "1"}, {"Check5", "x"}, {"MinSparrate", "100"}},
+     minimumZuGross,
+     "MinSparrate"},
+    {"94000 Spardatum", sparrate, {{"ratdatum1", ""}}, keinSpardatum, "ratdatum1"},
+    {"94000 Zins", sparrate, {{"Zins", ""}}, keinZins, "Zins"},
+    {"94000 Ende vor Anfang", sparrate, {{"Enddatum", "1.1.2006"}}, endeVorAnfang, "Enddatum"},
+    {"94000 nichts zu sparen", sparrate, {{"AnfVermögen", ""}, {"Vwert", ""}}, zuGering, "Vwert"},
+    {"94000 Anzahl", sparrate, {{"Check2", "x"}}, ohneAnzahl, "Anzahl"},
+    {"94000 Grenze",
+     sparrate,
+     {{"Check2", "x"}, {"Anzahl", "1"}, {"Check4", "x"}, {"MaxSparrate", "5"}},
+     keineLoesung,
+     "Check4"},
+    {"92000 Spardatum", rendite, {{"ratdatum1", ""}}, keinSpardatum, "ratdatum1"},
+    {"92000 Endwert", rendite, {{"Vermendwert", ""}}, "Bitte den Vermögensendwert eingeben", "Vermendwert"},
+    {"92000 151 Jahre", rendite, {{"Enddatum", "1.1.2158"}}, zuLang, "Enddatum"},
+    {"92000 Maximum",
+     rendite,
+     {{"Check2", "x"}, {"Anzahl", "1"}, {"Check4", "x"}, {"MaxSparrate", "100"}},
+     maximumZuKlein,
+     "MaxSparrate"},
+    {"92000 ohne Loesung", rendite, {{"Vermendwert", "-5"}}, "Es wurde keine zulässige Lösung gefunden", ""},
+    {"96000 Spardatum", anspardauer, {{"ratdatum1", ""}}, keinSpardatum, "ratdatum1"},
+    {"96000 Endvermoegen", anspardauer, {{"Vwert", ""}}, "Bitte das Endvermögen eingeben", "Vwert"},
+    {"96000 Zins", anspardauer, {{"Zins", ""}}, keinZins, "Zins"},
+    {"96000 Rate vor Anfang", anspardauer, {{"ratdatum1", "31122006"}}, rateVorAnfang, "ratdatum1"},
+    {"96000 Ziel zu klein",
+     anspardauer,
+     {{"Vwert", "999"}},
+     "Das Endvermögen darf nicht kleiner als das Anfangsvermögen sein.",
+     "Vwert"},
+    {"99000 Spardatum", anfangskapital, {{"ratdatum1", ""}}, keinSpardatum, "ratdatum1"},
+    {"99000 Enddatum", anfangskapital, {{"Enddatum", ""}}, keinEnddatum, "Enddatum"},
+    {"99000 nichts zu sparen", anfangskapital, {{"Vwert", ""}}, zuGering, "Vwert"},
+    {"99000 Stufen",
+     anfangskapital,
+     {{"Check2", "x"}, {"Anzahl", "1"}, {"Check3", "x"}},
+     ohneStufen,
+     "DynAnz"},
+};
+
+void Angeben(QWidget& form, const char* name, const char* text) {
+    if (auto* haken = form.findChild<QCheckBox*>(name))
+        haken->click();
+    else if (form.findChild<QLineEdit*>(name))
+        Fuelle(form, name, text);
+}
+
+}  // namespace
+
+class SparmeldungenTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void wirdAbgelehnt_data() {
+        QTest::addColumn<int>("nummer");
+        for (int nummer = 0; nummer < static_cast<int>(faelle.size()); ++nummer)
+            QTest::newRow(faelle[static_cast<std::size_t>(nummer)].name) << nummer;
+    }
+
+    void wirdAbgelehnt() {
+        QFETCH(int, nummer);
+        const Fall& fall = faelle[static_cast<std::size_t>(nummer)];
+        UhrStellen(*Datum::Aus(2026, 11, 21));
+        const Testordner ordner;
+        Sparrechner form(SparformVon(fall.ziel), ordner.Pfad());
+        Zeige(form);
+        for (const auto& [name, text] : {std::pair("AnfVermögen", "1000"),
+                                         {"Anfdatum", "01.01.2007"},
+                                         {"ratdatum1", "01.02.2007"},
+                                         {"Betrag", "100"},
+                                         {"Enddatum", "31.12.2007"},
+                                         {"Zins", "3"},
+                                         {"Vwert", "5000"},
+                                         {"Vermendwert", "2200"}})
+            Angeben(form, name, text);
+        for (const auto& [name, text] : fall.angaben)
+            Angeben(form, name, text);
+        const Zeuge zeuge;
+        QTest::keyClick(&form, Qt::Key_F9);
+        QCOMPARE(zeuge.texte, QStringList{fall.meldung});
+        QCOMPARE(zeuge.titel, QStringList{"OK"});
+        QVERIFY(zeuge.tasten.front() == Meldungstasten::ok);
+        QCOMPARE(Finde<QTabWidget>(&form, "TabStrip1")->currentIndex(), 0);
+        QCOMPARE(Finde<QLabel>(&form, "EV")->text(), "");
+        if (QString(fall.feld).isEmpty()) return;
+        QCOMPARE(Fokus(), fall.feld);
+        auto* feld = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+        if (!feld) return;
+        QVERIFY(feld->isEnabled());
+        Tippe("1");
+        QCOMPARE(feld->text(), "1");
+    }
+};
+
+ZINFOLIO_FENSTERTEST(SparmeldungenTest)
+#include "sparmeldungen_test.moc"
