@@ -92,6 +92,18 @@ class ZinsstaffelTest : public QObject {
         QCOMPARE(Summe("EV"), "15.086,53");
     }
 
+    void dasErgebnisSagtWonachEsGerechnetIst() {
+        Beispielkonto();
+        Waehle(*form_, Form48000::berechnung);
+        QCOMPARE(Finde<QLabel>(form_.get(), "Grundlage")->text(),
+                 "30/360 Tage : Deutsche Methode  ·  Zinsverrechnung: Quartalsende  ·  Kontoabschluss: "
+                 "31.03.2007");
+        Zeuge zeuge;
+        zeuge.antwort = Antwort::nein;
+        QTest::keyClick(form_.get(), Qt::Key_N, Qt::ControlModifier);
+        QCOMPARE(Finde<QLabel>(form_.get(), "Grundlage")->text(), "");
+    }
+
     void detailansichtenZeigenDieselbenZeilenMitMehrSpalten() {
         Beispielkonto();
         Waehle(*form_, Form48000::berechnung);

@@ -31,11 +31,15 @@ RegisterBerechnung::RegisterBerechnung(Auszugsart art, QWidget* eltern)
       ansicht_(NeueAuswahl(art_.ansicht, kontoansichten, this)),
       methode_(NeueAuswahl(art_.methode, effektivmethoden, this)),
       ezins_(NeueKennzahl("ezins", this)),
+      grundlage_(new QLabel(this)),
       Grid_(new Tabelle("Grid", this)) {
     setObjectName(art_.rahmen);
     auto* anordnung = new QVBoxLayout(this);
     anordnung->addWidget(Kopfzeile());
     anordnung->addWidget(Effektivzeile());
+    grundlage_->setObjectName("Grundlage");
+    grundlage_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    anordnung->addWidget(grundlage_);
     anordnung->addWidget(Auszugseite(), 1);
     connect(ansicht_, &QComboBox::currentIndexChanged, this, &RegisterBerechnung::AnsichtZeigen);
     connect(methode_, &QComboBox::activated, this, &RegisterBerechnung::methodeGewaehlt);
@@ -146,9 +150,10 @@ void RegisterBerechnung::KennzahlZeigen(const char* name, const std::string& tex
     titel->setVisible(!text.empty());
 }
 
-void RegisterBerechnung::Zeigen(std::vector<Staffelsatz> loesung) {
+void RegisterBerechnung::Zeigen(std::vector<Staffelsatz> loesung, const Kontoeinstellungen& grundlage) {
     loesung_ = std::make_shared<const std::vector<Staffelsatz>>(std::move(loesung));
     TastenFreigeben(true);
+    grundlage_->setText(QString::fromStdString(Rechengrundlage(grundlage)));
     const Kontosummen summen = KontosummenBilden(*loesung_, art_.regel);
     kennzahlen_.at("Gesamtzahlungssumme").first->setText(Anzeigetext(summen.Gesamtzahlungssumme));
     kennzahlen_.at("EV").first->setText(Anzeigetext(summen.Endvermögen));
@@ -159,6 +164,7 @@ void RegisterBerechnung::Zeigen(std::vector<Staffelsatz> loesung) {
 void RegisterBerechnung::Leeren() {
     loesung_ = std::make_shared<const std::vector<Staffelsatz>>();
     ezins_->clear();
+    grundlage_->clear();
     TastenFreigeben(false);
     for (const auto& [name, kennzahl] : kennzahlen_)
         kennzahl.first->clear();

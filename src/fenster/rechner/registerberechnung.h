@@ -10,6 +10,7 @@
 #include "kern/finmath/effektivmethode.h"
 #include "kern/staffel/kontoansicht.h"
 #include "kern/staffel/kontobericht.h"
+#include "kern/staffel/kontoeinstellungen.h"
 
 class QComboBox;
 class QHBoxLayout;
@@ -57,8 +58,8 @@ class RegisterBerechnung : public QWidget {
   public:
     RegisterBerechnung(Auszugsart art, QWidget* eltern);
 
-    /// Shows a calculated account: totals and the chosen view.
-    void Zeigen(std::vector<Staffelsatz> loesung);
+    /// Shows a calculated account: totals, the chosen view, and what it was calculated by.
+    void Zeigen(std::vector<Staffelsatz> loesung, const Kontoeinstellungen& grundlage);
 
     /// Shows no account.
     void Leeren();
@@ -111,6 +112,8 @@ class RegisterBerechnung : public QWidget {
     QComboBox* ansicht_;
     QComboBox* methode_;
     QLabel* ezins_;
+    /// What the account was calculated by, so that a picture of the tab explains itself.
+    QLabel* grundlage_;
     std::vector<QLabel*> effektivteile_;
     Tabelle* Grid_;
     /// By their names, with their captions.

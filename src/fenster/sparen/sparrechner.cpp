@@ -50,6 +50,13 @@ Suchzeile* NeueSuchzeile(QWidget* auszug) {
     return zeile;
 }
 
+/// What a plan's account was settled by; an end that was searched for is the one that was found.
+Kontoeinstellungen Grundlage(const Sparplan& plan, const Sparergebnis& ergebnis) {
+    return {static_cast<Zinsverrechnungsart>(plan.Combo4),
+            ergebnis.Enddatum.empty() ? plan.Enddatum : ergebnis.Enddatum,
+            static_cast<Verzinsungsmethode>(plan.Combo2)};
+}
+
 }  // namespace
 
 /// A plan under calculation: what was asked, and what becomes of it.
@@ -244,7 +251,7 @@ void Sparrechner::ErgebnisZeigen(const Sparplan& plan, Sparergebnis ergebnis) {
     ergebnis_ = std::move(ergebnis);
     gerechnet_ = plan;
     auszug_->KurzformWaehlen();
-    auszug_->Zeigen(*ergebnis_.lauf.loesung);
+    auszug_->Zeigen(*ergebnis_.lauf.loesung, Grundlage(plan, ergebnis_));
     for (const Kennzahlzeile& zeile : Loesungszeile(form_.ziel))
         auszug_->KennzahlZeigen(zeile.name, Loesungstext(form_.ziel, ergebnis_));
     if (form_.effektivzinsMitErgebnis || form_.ziel == Sparziel::rendite) EffzinsZeigen(plan);

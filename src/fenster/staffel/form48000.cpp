@@ -142,7 +142,7 @@ void Form48000::KontoRechnen() {
         auto ablehnung = dateien_.Rechnen(zinsverrechnung_->Lesen(), konto);
         zahlungen_->Auffrischen();
         zinssaetze_->NeuSchreiben2();
-        if (!ablehnung) berechnung_->Zeigen(std::move(konto.loesung));
+        if (!ablehnung) berechnung_->Zeigen(std::move(konto.loesung), konto.einstellungen);
         if (!RegisterVorhanden(effektivzins_)) berechnung_->EffektivzinsVerbergen();
         return ablehnung;
     });

@@ -16,6 +16,15 @@ constexpr Selbstwertaufbau<Kontoeinstellungswerte> einstellungsdatei{30, einstel
 
 }  // namespace
 
+std::string Rechengrundlage(const Kontoeinstellungen& einstellungen) {
+    const auto text = [](const auto& texte, auto auswahl) {
+        return std::string(texte.at(static_cast<std::size_t>(auswahl)));
+    };
+    return text(verzinsungsmethoden, einstellungen.Verzinsungsmethode) +
+           "  ·  Zinsverrechnung: " + text(zinsverrechnungsarten, einstellungen.Zinsverrechnungsart) +
+           "  ·  Kontoabschluss: " + einstellungen.Kontodatum;
+}
+
 void KontoeinstellungenSchreiben(const std::filesystem::path& ordner,
                                  const Kontoeinstellungen& einstellungen) {
     einstellungsdatei.Schreiben(

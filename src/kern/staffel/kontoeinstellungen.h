@@ -22,6 +22,9 @@ struct Kontoeinstellungen {
     zinfolio::Verzinsungsmethode Verzinsungsmethode = zinfolio::Verzinsungsmethode::deutsch;
 };
 
+/// What a statement was calculated by, as one line beside it: method, rhythm, closing date.
+[[nodiscard]] std::string Rechengrundlage(const Kontoeinstellungen& einstellungen);
+
 /// The same as read back: a value that its record lacks is not there.
 struct Kontoeinstellungswerte {
     std::optional<zinfolio::Zinsverrechnungsart> Zinsverrechnungsart;

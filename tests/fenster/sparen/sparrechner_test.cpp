@@ -101,6 +101,10 @@ class SparrechnerTest : public QObject {
         Waehle(*stand.form, berechnen);
         // 2000 and 36.25 until 01.11., the next rate on 01.12. passes the target.
         QCOMPARE(Text(*stand.form, "Loesung"), "01.12.2007");
+        const QString grundlage = Text(*stand.form, "Grundlage");
+        QVERIFY2(grundlage.startsWith("30/360 Tage : Deutsche Methode  ·  Zinsverrechnung: ") &&
+                     grundlage.endsWith("  ·  Kontoabschluss: 01.12.2007"),
+                 qPrintable(grundlage));
         QCOMPARE(Zeile(*stand.form, "Grid", 1), "01.02.2007|Zahlung|100,00|0,00|1.100,00");
         QVERIFY(!Finde<QLabel>(stand.form.get(), "ezins")->isVisible());
         Klicke(*stand.form, "Effzins");

@@ -118,5 +118,11 @@ TEST_F(KontoeinstellungenTest, IndexDenDieListeNichtHatIstEinDateifehler) {
     EXPECT_THROW((void)Gelesen(art + datum + Satz("\x02\0\xFF\xFF"s)), Dateifehler);
 }
 
+TEST(Rechengrundlage, NenntMethodeRhythmusUndAbschluss) {
+    EXPECT_EQ(
+        Rechengrundlage({Zinsverrechnungsart::quartalsende, "31.03.2007", Verzinsungsmethode::kalender365}),
+        "kal/365 Tage  ·  Zinsverrechnung: Quartalsende  ·  Kontoabschluss: 31.03.2007");
+}
+
 }  // namespace
 }  // namespace zinfolio
