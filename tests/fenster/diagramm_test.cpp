@@ -355,6 +355,7 @@ class DiagrammTest : public QObject {
         QCOMPARE(wahl.fragen.size(), 1U);
         QCOMPARE(wahl.fragen[0].vorgabe, "Diagramm.png");
         const QImage bild(Datei("bild.png"), "PNG");
+        QVERIFY(Finde<QLabel>(form_.get(), "Ablageort")->text().startsWith("Gespeichert: bild.png in /"));
         QCOMPARE(bild.size(), QSize(2400, 1350));
         QCOMPARE(bild.pixelColor(0, 0), QColor(Qt::white));
         QCOMPARE(plot_->xAxis->labelColor(), QColor(225, 225, 225));

@@ -120,11 +120,26 @@ class VorschauexportTest : public QObject {
         QCOMPARE(fs::current_path(), vorher);
     }
 
-    void derProjektordnerIstVorgegeben() {
-        v_->form.Zeigen([] { return Nummernbericht(1); }, "/home/konto");
+    void ordnerUndNameDesProjektsSindVorgegeben() {
         const Dateiwahl wahl;
         v_->Exportieren(Exportziel::pdf);
-        QCOMPARE(wahl.fragen[0].vorgabe, "/home/konto/");
+        QCOMPARE(wahl.fragen[0].vorgabe, "Bericht.pdf");
+        v_->form.setWindowFilePath("/home/konto/Giro v1.2");
+        v_->Exportieren(Exportziel::rtf);
+        QCOMPARE(wahl.fragen[1].vorgabe, "/home/konto/Giro v1.2.rtf");
+    }
+
+    void einHinweisSagtWohinDieDateiGing() {
+        Dateiwahl wahl;
+        for (const auto& [ziel, name] :
+             {std::pair(Exportziel::pdf, "Auszug.pdf"), std::pair(Exportziel::htm, "Auszug.htm")}) {
+            wahl.antwort = v_->ablage.Pfad() / name;
+            v_->Exportieren(ziel);
+            QVERIFY(Finde<QLabel>(&v_->form, "Ablageort")
+                        ->text()
+                        .startsWith(QString("Gespeichert: ") + name + " in /"));
+        }
+        QCOMPARE(v_->form.findChildren<QLabel*>("Ablageort").size(), 1);
     }
 
     void derNameVerliertSeineLetztenVierZeichen_data() {

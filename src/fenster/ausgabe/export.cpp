@@ -10,6 +10,7 @@
 #include "fenster/ausgabe/druckdialog.h"
 #include "fenster/ausgabe/fortschrittsfenster.h"
 #include "fenster/ausgabe/pdf.h"
+#include "fenster/ui/ablagehinweis.h"
 #include "fenster/ui/dateidialog.h"
 #include "fenster/ui/geschuetzt.h"
 #include "fenster/ui/meldungsfenster.h"
@@ -30,11 +31,10 @@ using Abbruch = Fortschrittsfenster::Abbruch;
 /// The file to write, with the ending without its point; nothing where the user cancelled.
 std::optional<fs::path> NachNamenFragen(const Exportauftrag& auftrag, const QString& endung) {
     const auto gewaehlt =
-        DateiFragen(auftrag.fenster,
-                    {.titel = "Exportieren",
-                     .filter = auftrag.filter.arg(endung),
-                     .endung = endung,
-                     .vorgabe = auftrag.projektordner.isEmpty() ? QString() : auftrag.projektordner + '/'});
+        DateiFragen(auftrag.fenster, {.titel = "Exportieren",
+                                      .filter = auftrag.filter.arg(endung),
+                                      .endung = endung,
+                                      .vorgabe = Namensvorschlag(*auftrag.fenster, "Bericht", endung)});
     if (!gewaehlt || gewaehlt->empty()) return std::nullopt;
     fs::path datei = Exportname(*gewaehlt, '.' + endung);
     if (datei != *gewaehlt && !DarfUeberschreiben(auftrag.fenster, datei)) return std::nullopt;
@@ -74,7 +74,7 @@ void PdfExport(const Exportauftrag& auftrag, const Seitenmaler& maler) {
         const auto datei = NachNamenFragen(auftrag, "pdf");
         if (!datei) return;
         Fortschrittsfenster anzeige(auftrag.fenster, "Die PDF-Datei wird geschrieben …", Abbruch::moeglich);
-        (void)PdfSchreiben(maler, *datei, anzeige.Zuhoerer());
+        if (PdfSchreiben(maler, *datei, anzeige.Zuhoerer())) Ablagehinweis::Zeigen(*auftrag.fenster, *datei);
     });
 }
 
@@ -86,7 +86,9 @@ void TextExport(const Exportauftrag& auftrag, Exportziel ziel, const Bericht& be
         AtomarSchreiben(auftrag.arbeitsordner / ("Zwispei." + endung.toStdString()), *text,
                         Sicherung::Fluechtig);
         const auto datei = NachNamenFragen(auftrag, endung);
-        if (datei) AtomarSchreiben(*datei, *text, Sicherung::Dauerhaft);
+        if (!datei) return;
+        AtomarSchreiben(*datei, *text, Sicherung::Dauerhaft);
+        Ablagehinweis::Zeigen(*auftrag.fenster, *datei);
     });
 }
 

@@ -20,8 +20,6 @@ struct Exportauftrag {
     QWidget* fenster = nullptr;
     /// Where `Zwispei.rtf` and `Zwispei.htm` lie.
     std::filesystem::path arbeitsordner;
-    /// Where the save dialog begins; empty: where it was.
-    QString projektordner;
     /// The filter of the save dialog; %1 stands for the ending.
     QString filter = "Ratenspardateien (*.%1) |*.%1";
 };

@@ -9,6 +9,7 @@
 #include "fenster/ausgabe/diagrammbild.h"
 #include "fenster/ausgabe/diagrammplot.h"
 #include "fenster/ausgabe/druckdialog.h"
+#include "fenster/ui/ablagehinweis.h"
 #include "fenster/ui/bausteine.h"
 #include "fenster/ui/dateidialog.h"
 #include "fenster/ui/geschuetzt.h"
@@ -87,7 +88,7 @@ void FormDiagramm::BildSpeichern() {
     const auto datei = DateiFragen(this, {.titel = "Bild speichern",
                                           .filter = "Bilder (*.png *.svg *.pdf) |*.png;*.svg;*.pdf",
                                           .endung = "png",
-                                          .vorgabe = "Diagramm.png"});
+                                          .vorgabe = Namensvorschlag(*this, "Diagramm", "png")});
     if (!datei) return;
     const QString endung = QString::fromStdString(datei->extension().string()).mid(1);
     const QByteArray bytes = DiagrammAlsDatei(Chart_->Gezeigtes(), Ausschnitt(), endung);
@@ -95,10 +96,11 @@ void FormDiagramm::BildSpeichern() {
         MeldungZeigen(this, {.text = "Ein Bild kann nur als .png, .svg oder .pdf gespeichert werden."});
         return;
     }
-    MitSchreibmeldung(this, [&] {
+    const bool gespeichert = MitSchreibmeldung(this, [&] {
         AtomarSchreiben(*datei, std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())),
                         Sicherung::Dauerhaft);
     });
+    if (gespeichert) Ablagehinweis::Zeigen(*this, *datei);
 }
 
 void FormDiagramm::BildKopieren() const {

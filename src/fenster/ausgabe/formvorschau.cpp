@@ -150,10 +150,9 @@ void FormVorschau::Zoomen(int schritt) {
     if (maler_) ZoomZeigen(Zoomstufe(VP_->Prozent(), schritt));
 }
 
-void FormVorschau::Zeigen(std::function<Bericht()> bilden, const QString& projektordner) {
+void FormVorschau::Zeigen(std::function<Bericht()> bilden) {
     maler_ = std::make_shared<const Seitenmaler>(bilden());
     bilden_ = std::move(bilden);
-    projektordner_ = projektordner;
     ZoomZeigen(maler_->Inhalt().zoom);
     VP_->Zeigen(maler_);
 }
@@ -177,7 +176,7 @@ void FormVorschau::showEvent(QShowEvent* ereignis) {
 
 void FormVorschau::Exportieren() {
     if (!maler_) return;
-    const Exportauftrag auftrag{this, arbeitsordner_, projektordner_, QString::fromUtf8(art_.filter)};
+    const Exportauftrag auftrag{this, arbeitsordner_, QString::fromUtf8(art_.filter)};
     // The report lives until the export is done, whatever is shown meanwhile.
     const auto maler = maler_;
     Geschuetzt(this, [&] {

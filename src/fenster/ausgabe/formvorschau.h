@@ -38,8 +38,8 @@ class FormVorschau : public QWidget {
 
     /// Composes a report and shows its first page. `bilden` is called again for the targets that compose the
     /// report anew, and must stay callable until the next report; what it throws here comes through, and the
-    /// report before stays. The save dialogs begin in `projektordner`; empty: where they were.
-    void Zeigen(std::function<Bericht()> bilden, const QString& projektordner = {});
+    /// report before stays.
+    void Zeigen(std::function<Bericht()> bilden);
 
   signals:
     /// The user wants to go back to where the report came from.
@@ -62,7 +62,6 @@ class FormVorschau : public QWidget {
 
     std::filesystem::path arbeitsordner_;
     Vorschauart art_;
-    QString projektordner_;
     std::function<Bericht()> bilden_;
     std::shared_ptr<const Seitenmaler> maler_;
     Seitenansicht* VP_;

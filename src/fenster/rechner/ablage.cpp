@@ -16,6 +16,10 @@ Antwort Speicherfrage(QWidget* fenster) {
 
 Ablage::Ablage(QWidget& fenster) : QObject(&fenster), fenster_(&fenster) {}
 
+QString Ablage::Exportstamm() const {
+    return Name().replace('/', '-').trimmed();
+}
+
 bool Ablage::AufgebenGewollt() {
     if (!fenster_->isWindowModified()) return true;
     const Antwort antwort = Speicherfrage(fenster_);

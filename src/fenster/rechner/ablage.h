@@ -34,9 +34,11 @@ class Ablage : public QObject {
     /// A submenu of its own behind its commands, made once for the menu; none: nothing.
     [[nodiscard]] virtual QMenu* NeuesMenue() { return nullptr; }
 
-    /// The name of what is shown, empty where it has none, and the folder where dialogs begin.
+    /// The name of what is shown, empty where it has none.
     [[nodiscard]] virtual QString Name() const = 0;
-    [[nodiscard]] virtual QString Ordner() const { return {}; }
+
+    /// What exports of it are named by: a path or a mere name, without an ending; empty where it has none.
+    [[nodiscard]] virtual QString Exportstamm() const;
 
     /// Whether the calculator may be left: always asks.
     [[nodiscard]] bool VerlassenGewollt();

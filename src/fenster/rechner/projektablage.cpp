@@ -54,8 +54,8 @@ QString Projektablage::Name() const {
     return QString::fromStdString((art_.mitEndung ? datei_->filename() : datei_->stem()).string());
 }
 
-QString Projektablage::Ordner() const {
-    return datei_ ? QString::fromStdString(datei_->parent_path().string()) : QString();
+QString Projektablage::Exportstamm() const {
+    return datei_ ? QString::fromStdString((datei_->parent_path() / datei_->stem()).string()) : QString();
 }
 
 void Projektablage::Beginnen() {

@@ -60,7 +60,7 @@ class Projektablage : public Ablage {
     [[nodiscard]] QWidget* NeueAnzeige() override;
     [[nodiscard]] QMenu* NeuesMenue() override;
     [[nodiscard]] QString Name() const override;
-    [[nodiscard]] QString Ordner() const override;
+    [[nodiscard]] QString Exportstamm() const override;
 
     /// Shows a project without asking for its name; what speaks against it is told.
     void DateiOeffnen(const std::filesystem::path& datei);

@@ -197,7 +197,7 @@ void Rechner::Ablehnen(const Ablehnung& ablehnung) {
 
 void Rechner::Drucken(const std::function<Bericht()>& bilden) {
     GeschuetztMitWartezeiger(this, [&] {
-        vorschau_->Zeigen(bilden, inhalt_.ablage->Ordner());
+        vorschau_->Zeigen(bilden);
         SeiteZeigen(vorschau_);
     });
 }
@@ -221,6 +221,8 @@ QString Rechner::Projektname() const {
 void Rechner::TitelZeigen() {
     const QString name = Projektname();
     const QString titel = QString::fromUtf8(titel_);
+    const QString stamm = inhalt_.ablage->Exportstamm();
+    setWindowFilePath(stamm.isEmpty() ? titel : stamm);
     setWindowTitle(name.isEmpty() ? titel + "[*]" : titel + " – " + name + "[*]");
 }
 

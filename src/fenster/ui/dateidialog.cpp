@@ -46,6 +46,11 @@ std::optional<std::filesystem::path> MitEndung(QWidget* fenster, const Dateifrag
 
 }  // namespace
 
+QString Namensvorschlag(const QWidget& element, const QString& ersatz, const QString& endung) {
+    const QString name = element.window()->windowFilePath();
+    return (name.isEmpty() ? ersatz : name) + '.' + endung;
+}
+
 bool DarfUeberschreiben(QWidget* fenster, const std::filesystem::path& datei) {
     std::error_code unwichtig;
     if (!std::filesystem::exists(datei, unwichtig)) return true;

@@ -28,6 +28,10 @@ struct Dateifrage {
 /// folder of the program is the same afterwards.
 [[nodiscard]] std::optional<std::filesystem::path> DateiFragen(QWidget* fenster, const Dateifrage& frage);
 
+/// The name that a save dialog proposes for what stands in a window: that of the window's project
+/// (`QWidget::windowFilePath`, without an ending), else `ersatz`; with its ending.
+[[nodiscard]] QString Namensvorschlag(const QWidget& element, const QString& ersatz, const QString& endung);
+
 /// Whether a file may be written: true where there is none, or where the user says so.
 [[nodiscard]] bool DarfUeberschreiben(QWidget* fenster, const std::filesystem::path& datei);
 

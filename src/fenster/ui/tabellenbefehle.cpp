@@ -3,6 +3,7 @@
 #include <QAction>
 #include <functional>
 
+#include "fenster/ui/ablagehinweis.h"
 #include "fenster/ui/dateidialog.h"
 #include "fenster/ui/geschuetzt.h"
 #include "fenster/ui/tabelle.h"
@@ -45,8 +46,9 @@ void Speichern(Tabelle& tabelle, const Dateifrage& frage,
                const std::function<void(const std::filesystem::path&)>& schreiben) {
     const auto datei = DateiFragen(tabelle.window(), frage);
     if (!datei) return;
-    MitSchreibmeldung(
+    const bool gespeichert = MitSchreibmeldung(
         tabelle.window(), [&] { schreiben(*datei); }, "Die Tabelle konnte nicht gespeichert werden.\n\n");
+    if (gespeichert) Ablagehinweis::Zeigen(tabelle, *datei);
 }
 
 void AlsCsvSpeichern(Tabelle& tabelle) {
@@ -54,7 +56,7 @@ void AlsCsvSpeichern(Tabelle& tabelle) {
               {.titel = "Tabelle speichern",
                .filter = "CSV-Dateien (*.csv) |*.csv",
                .endung = "csv",
-               .vorgabe = "Tabelle.csv"},
+               .vorgabe = Namensvorschlag(tabelle, "Tabelle", "csv")},
               [&](const auto& datei) {
                   AtomarSchreiben(datei, std::string(bytefolgezeichen) + TabelleAlsCsv(tabelle.Inhalt()),
                                   Sicherung::Dauerhaft);
@@ -66,7 +68,7 @@ void AlsDokumentSpeichern(Tabelle& tabelle) {
               {.titel = "Tabelle speichern",
                .filter = "Tabellendokumente (*.xlsx) |*.xlsx",
                .endung = "xlsx",
-               .vorgabe = "Tabelle.xlsx"},
+               .vorgabe = Namensvorschlag(tabelle, "Tabelle", "xlsx")},
               [&](const auto& datei) { TabellendokumentSchreiben(datei, tabelle.Inhalt()); });
 }
 
