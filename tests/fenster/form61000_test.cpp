@@ -104,6 +104,43 @@ class Form61000Test : public QObject {
         QCOMPARE(Fokus(), "Begdatum");
     }
 
+    void alleSechsRegisterNurMitTasten() {
+        Finde<QWidget>(&Form(), "Begdatum")->setFocus(Qt::TabFocusReason);
+        for (const auto& [datum, betrag] :
+             {std::pair("15.1.7", "1000"), {"15.2.7", "-500"}, {"15.4.7", "-520"}}) {
+            for (const char* text : {datum, betrag, "Leihe"}) {
+                Tippe(text);
+                Druecke(Qt::Key_Return);
+            }
+            stand_->Taste(Qt::Key_E, Qt::AltModifier);
+            // A button that its letter presses stays down for a moment.
+            QTRY_COMPARE(Fokus(), "Begdatum");
+        }
+        QCOMPARE(Zeile(Form(), "List1", 2), "15.04.2007|-520,00|Leihe");
+        const auto weiter = [this] {
+            stand_->Taste(Qt::Key_Tab, Qt::ControlModifier);
+            return Gewaehlt();
+        };
+        QCOMPARE(weiter(), static_cast<int>(effektivzins));
+        QCOMPARE(Text("Effzins"), "12,51869");
+        QCOMPARE(weiter(), static_cast<int>(barwert));
+        stand_->Taste(Qt::Key_Z, Qt::AltModifier);
+        QCOMPARE(Fokus(), "Abzins2");
+        Tippe("0");
+        Druecke(Qt::Key_Return);
+        QCOMPARE(Text("Label14"), "-20,00");
+        stand_->Taste(Qt::Key_A, Qt::AltModifier);
+        QTRY_VERIFY(Sichtbar("Grid4"));
+        Druecke(Qt::Key_Escape);
+        QCOMPARE(weiter(), static_cast<int>(endwert));
+        QCOMPARE(Text("Label14"), "-20,00");
+        QCOMPARE(weiter(), static_cast<int>(plan));
+        QCOMPARE(Text("nomzins"), "11,84700 %");
+        QCOMPARE(weiter(), static_cast<int>(notizen));
+        Tippe("fertig");
+        QCOMPARE(Finde<QTextEdit>(&Form(), "RTZinsstaffel")->toPlainText(), "fertig");
+    }
+
     void nachDerUebernahmeSindAlleFelderLeer() {
         Fuelle(Form(), "Beschreibung", "Miete");
         Fuelle(Form(), "Abstand", "2");

@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
 
 #include "fenster/ui/tabelle.h"
 
@@ -19,8 +20,10 @@ QWidget* Eingabezeile::Feld(const char* beschriftung, QWidget* feld, const char*
     auto* titel = new QLabel(QString::fromUtf8(beschriftung), gruppe);
     titel->setBuddy(feld);
     anordnung->addWidget(titel);
-    // A field does not grow with the window: rates and dates are short.
+    // A field does not grow with the window, since rates and dates are short; a narrow window may cut it.
+    constexpr int schmalste = 60;
     feld->setSizePolicy(QSizePolicy::Maximum, feld->sizePolicy().verticalPolicy());
+    if (!qobject_cast<QPushButton*>(feld)) feld->setMinimumWidth(schmalste);
     anordnung->addWidget(feld);
     if (*einheit != '\0') anordnung->addWidget(new QLabel(QString::fromUtf8(einheit), gruppe));
     zeile_->addWidget(gruppe);

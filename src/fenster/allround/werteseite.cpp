@@ -111,6 +111,9 @@ void Werteseite::EingabeZeigen(const Werteingabe& eingabe) {
     BarwDatum_->Setze(eingabe.BarwDatum);
     gerechneterZins_ = eingabe.Abzins2;
     gerechnetesDatum_ = eingabe.BarwDatum;
+    // A text that is set is not selected, and the next key would append to it.
+    for (QLineEdit* feld : std::initializer_list<QLineEdit*>{Abzins2_, BarwDatum_})
+        if (feld->hasFocus()) feld->selectAll();
 }
 
 /// An empty rate, and a date of less than three characters, start nothing: their defaults count from the next
