@@ -71,17 +71,17 @@ struct Sparform {
     /// The checks behind the first, in their order.
     std::span<const Planpruefung* const> pruefungen;
     /// The rate may change during the plan.
-    bool zinstabelle;
-    Dynamik dynamik;
+    bool zinstabelle = true;
+    Dynamik dynamik = Dynamik::mitGrenzen;
     /// A calculation shows the effective rate of its account at once.
-    bool effektivzinsMitErgebnis;
+    bool effektivzinsMitErgebnis = true;
     Planablagenamen ablage;
-    Laufdateinamen laufdateien;
+    Laufdateinamen laufdateien{};
     /// The layout of its plan files.
     Selbstwertaufbau<Sparplan> plandatei;
     /// The short calculator of the same question; empty: there is none.
-    std::string_view kurzrechner;
-    Sparberichtsangaben bericht;
+    std::string_view kurzrechner{};
+    Sparberichtsangaben bericht{};
 };
 
 /// By the numbers of `Sparziel`.

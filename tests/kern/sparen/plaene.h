@@ -49,4 +49,11 @@ inline std::string Rechne(Sparziel ziel, Sparplan plan, Sparergebnis& ergebnis) 
     return ablehnung ? ablehnung->Meldung : "";
 }
 
+/// The result of a plan that has one.
+inline Sparergebnis Geloest(Sparziel ziel, const Sparplan& plan) {
+    Sparergebnis ergebnis;
+    EXPECT_EQ(Rechne(ziel, plan, ergebnis), "");
+    return ergebnis;
+}
+
 }  // namespace zinfolio
