@@ -118,6 +118,16 @@ class PlanablageTest : public QObject {
         QVERIFY(zeuge.texte.isEmpty());
     }
 
+    void vonEinemLangenNamenBleibtDerAnfangInSicht() {
+        QLineEdit* name = Combo3()->lineEdit();
+        name->setFocus();
+        name->selectAll();
+        Tippe(QString(200, 'x'));
+        QCOMPARE(name->cursorPosition(), 200);
+        Druecke(Qt::Key_Tab);
+        QCOMPARE(name->cursorPosition(), 0);
+    }
+
     void jedeTasteBenenntUm() {
         Combo3()->setFocus();
         Combo3()->lineEdit()->selectAll();

@@ -47,6 +47,9 @@ QWidget* Planablage::NeueAnzeige() {
             [this](int plan) { Geschuetzt(Fenster(), [&] { Waehlen(plan); }); });
     connect(Combo3_->lineEdit(), &QLineEdit::textEdited, this,
             [this](const QString& name) { Geschuetzt(Fenster(), [&] { Umbenennen(name); }); });
+    // Of a name longer than its field the beginning is in sight.
+    connect(Combo3_->lineEdit(), &QLineEdit::editingFinished, Combo3_->lineEdit(),
+            [zeile = Combo3_->lineEdit()] { zeile->home(false); });
     return anzeige;
 }
 

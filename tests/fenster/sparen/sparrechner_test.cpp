@@ -72,6 +72,37 @@ class SparrechnerTest : public QObject {
         QVERIFY(std::filesystem::exists(stand.arbeit.Pfad() / "Lösungsdatei"));
     }
 
+    void jedeFormMitDerEingabetaste_data() {
+        QTest::addColumn<int>("ziel");
+        QTest::addColumn<QStringList>("angaben");
+        QTest::addColumn<QString>("ergebnis");
+        const auto zeile = [](Sparziel ziel, const QStringList& angaben, const char* ergebnis) {
+            QTest::newRow(SparformVon(ziel).name.data()) << int(ziel) << angaben << QString(ergebnis);
+        };
+        // An empty text stands for a list that is passed by.
+        zeile(Sparziel::sparrate, {"1000", "1.1.7", "1.2.7", "", "2146,32", "31.12.07", "3"}, "100,00");
+        zeile(Sparziel::rendite, {"1000", "1.1.7", "1.2.7", "100", "", "2146,32", "", "", "31.12.07"},
+              "2.146,32");
+        zeile(Sparziel::anspardauer, {"1000", "1.1.7", "1.2.7", "100", "", "3", "", "", "2080"},
+              "01.12.2007");
+        zeile(Sparziel::anfangskapital, {"1.1.7", "1.2.7", "100", "", "5000", "31.12.07", "3"}, "5.000,00");
+    }
+    void jedeFormMitDerEingabetaste() {
+        QFETCH(int, ziel);
+        QFETCH(QStringList, angaben);
+        QFETCH(QString, ergebnis);
+        UhrStellen(*Datum::Aus(2026, 11, 21));
+        const Testordner ordner;
+        Sparrechner form(SparformVon(static_cast<Sparziel>(ziel)), ordner.Pfad());
+        Zeige(form);
+        Beginne(form, ziel == int(Sparziel::anfangskapital) ? "Anfdatum" : "AnfVermögen");
+        Eingeben(angaben);
+        QTest::keyClick(&form, Qt::Key_F9);
+        QCOMPARE(Gewaehlt(form), int(berechnen));
+        const bool imFeld = ziel == int(Sparziel::sparrate) || ziel == int(Sparziel::anspardauer);
+        QCOMPARE(Text(form, imFeld ? "Loesung" : "EV"), ergebnis);
+    }
+
     void sparrate() {
         Pruefstand<Form94000> stand;
         FuellePlan2007(*stand.form);
