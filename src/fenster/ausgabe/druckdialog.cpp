@@ -3,24 +3,17 @@
 #include <QPrintDialog>
 #include <utility>
 
+#include "fenster/ui/zeuge.h"
+
 namespace zinfolio {
-namespace {
-
-Druckzeuge& Zeuge() {
-    static Druckzeuge zeuge;
-    return zeuge;
-}
-
-}  // namespace
-
 bool DruckerFragen(QWidget* fenster, QPrinter& drucker) {
-    if (Zeuge()) return Zeuge()(drucker);
+    if (auto& zeuge = Zeugenplatz<Druckzeuge>()) return zeuge(drucker);
     QPrintDialog dialog(&drucker, fenster);
     return dialog.exec() == QDialog::Accepted;
 }
 
 Druckzeuge DruckfragenUmleiten(Druckzeuge zeuge) {
-    return std::exchange(Zeuge(), std::move(zeuge));
+    return std::exchange(Zeugenplatz<Druckzeuge>(), std::move(zeuge));
 }
 
 }  // namespace zinfolio

@@ -3,25 +3,18 @@
 #include <QFontDialog>
 #include <utility>
 
+#include "fenster/ui/zeuge.h"
+
 namespace zinfolio {
-namespace {
-
-Schriftzeuge& Zeuge() {
-    static Schriftzeuge zeuge;
-    return zeuge;
-}
-
-}  // namespace
-
 std::optional<QFont> SchriftFragen(QWidget* fenster, const QFont& anfang) {
-    if (Zeuge()) return Zeuge()(anfang);
+    if (auto& zeuge = Zeugenplatz<Schriftzeuge>()) return zeuge(anfang);
     bool gewaehlt = false;
     const QFont schrift = QFontDialog::getFont(&gewaehlt, anfang, fenster, "Schriften");
     return gewaehlt ? std::optional(schrift) : std::nullopt;
 }
 
 Schriftzeuge SchriftfragenUmleiten(Schriftzeuge zeuge) {
-    return std::exchange(Zeuge(), std::move(zeuge));
+    return std::exchange(Zeugenplatz<Schriftzeuge>(), std::move(zeuge));
 }
 
 }  // namespace zinfolio

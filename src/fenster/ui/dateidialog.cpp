@@ -5,14 +5,10 @@
 #include <utility>
 
 #include "fenster/ui/meldungsfenster.h"
+#include "fenster/ui/zeuge.h"
 
 namespace zinfolio {
 namespace {
-
-Dateizeuge& Zeuge() {
-    static Dateizeuge zeuge;
-    return zeuge;
-}
 
 /// "Text (*.x) |*.x" as the toolkit wants it: "Text (*.x)".
 QString Werkzeugfilter(const QString& filter) {
@@ -59,7 +55,7 @@ bool DarfUeberschreiben(QWidget* fenster, const std::filesystem::path& datei) {
 }
 
 std::optional<std::filesystem::path> DateiFragen(QWidget* fenster, const Dateifrage& frage) {
-    if (Zeuge()) return Zeuge()(frage);
+    if (auto& zeuge = Zeugenplatz<Dateizeuge>()) return zeuge(frage);
     QFileDialog dialog(fenster, frage.titel);
     const bool speichern = frage.zweck == Dateifrage::Zweck::speichern;
     dialog.setAcceptMode(speichern ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
@@ -74,7 +70,7 @@ std::optional<std::filesystem::path> DateiFragen(QWidget* fenster, const Dateifr
 }
 
 Dateizeuge DateifragenUmleiten(Dateizeuge zeuge) {
-    return std::exchange(Zeuge(), std::move(zeuge));
+    return std::exchange(Zeugenplatz<Dateizeuge>(), std::move(zeuge));
 }
 
 }  // namespace zinfolio

@@ -3,13 +3,10 @@
 #include <QMessageBox>
 #include <utility>
 
+#include "fenster/ui/zeuge.h"
+
 namespace zinfolio {
 namespace {
-
-Meldungszeuge& Zeuge() {
-    static Meldungszeuge zeuge;
-    return zeuge;
-}
 
 QMessageBox::Icon Zeichen(Meldungsart art) {
     switch (art) {
@@ -49,7 +46,7 @@ Antwort AntwortAus(int taste) {
 }
 
 Antwort Zeigen(QWidget* fenster, const Meldung& meldung) {
-    if (Zeuge()) return Zeuge()(meldung);
+    if (auto& zeuge = Zeugenplatz<Meldungszeuge>()) return zeuge(meldung);
     const auto& [inhalt, art, tastenart] = meldung;
     const Tasten tasten = TastenAus(tastenart);
     QMessageBox box(Zeichen(art), inhalt.titel, inhalt.text, tasten.alle, fenster);
@@ -78,7 +75,7 @@ Antwort FragenMitAbbruch(QWidget* fenster, const Meldungsinhalt& inhalt) {
 }
 
 Meldungszeuge MeldungenUmleiten(Meldungszeuge zeuge) {
-    return std::exchange(Zeuge(), std::move(zeuge));
+    return std::exchange(Zeugenplatz<Meldungszeuge>(), std::move(zeuge));
 }
 
 QString Anzeigetext(std::string_view text) {
