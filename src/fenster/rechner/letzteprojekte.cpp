@@ -11,7 +11,7 @@ namespace {
 constexpr auto schluessel = "zuletzt";
 constexpr int hoechstensJeEndung = 10;
 
-QSettings Ablage() {
+QSettings Listenablage() {
     return QSettings("Zinfolio", "Projekte");
 }
 
@@ -20,7 +20,7 @@ bool HatEndung(const QString& datei, const QString& endung) {
 }
 
 QStringList Gemerkte() {
-    return Ablage().value(schluessel).toStringList();
+    return Listenablage().value(schluessel).toStringList();
 }
 
 /// An `&` of the file's name is no mnemonic; the first nine have their digit.
@@ -64,13 +64,13 @@ void ProjektMerken(const QString& datei) {
     dateien.removeIf([&](const QString& eine) {
         return HatEndung(eine, QFileInfo(pfad).suffix()) && ++gleichartige > hoechstensJeEndung;
     });
-    Ablage().setValue(schluessel, dateien);
+    Listenablage().setValue(schluessel, dateien);
 }
 
 void LetzteProjekteVergessen(const QString& endung) {
     QStringList dateien = Gemerkte();
     dateien.removeIf([&](const QString& datei) { return HatEndung(datei, endung); });
-    Ablage().setValue(schluessel, dateien);
+    Listenablage().setValue(schluessel, dateien);
 }
 
 QString Projektbezeichnung(const QString& datei) {

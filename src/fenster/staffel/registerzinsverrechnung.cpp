@@ -8,21 +8,19 @@
 namespace zinfolio {
 namespace {
 
-using K = Kontoeinstellungen;
-
-constexpr std::array feldzeilen{
-    Feld<&K::Zinsverrechnungsart>({.name = "Combo1",
-                                   .titel = "&Zinsverrechnung",
-                                   .art = Feldart::liste,
-                                   .texte = zinsverrechnungsarten}),
-    Feld<&K::Kontodatum>({.name = "Kontodatum",
-                          .titel = "Da&tum für Kontoabschluss/-berechnung",
-                          .filter = Tastenfilter::datum,
-                          .platzhalter = "xx.yy.zzzz"}),
-    Feld<&K::Verzinsungsmethode>({.name = "Combo3",
-                                  .titel = "&Verzinsungsmethode",
-                                  .art = Feldart::liste,
-                                  .texte = verzinsungsmethoden}),
+constexpr std::array zinsverrechnungsfelder{
+    Feld<&Kontoeinstellungen::Zinsverrechnungsart>({.name = "Combo1",
+                                                    .titel = "&Zinsverrechnung",
+                                                    .art = Feldart::liste,
+                                                    .texte = zinsverrechnungsarten}),
+    Feld<&Kontoeinstellungen::Kontodatum>({.name = "Kontodatum",
+                                           .titel = "Da&tum für Kontoabschluss/-berechnung",
+                                           .filter = Tastenfilter::datum,
+                                           .platzhalter = "xx.yy.zzzz"}),
+    Feld<&Kontoeinstellungen::Verzinsungsmethode>({.name = "Combo3",
+                                                   .titel = "&Verzinsungsmethode",
+                                                   .art = Feldart::liste,
+                                                   .texte = verzinsungsmethoden}),
 };
 
 }  // namespace
@@ -30,7 +28,7 @@ constexpr std::array feldzeilen{
 RegisterZinsverrechnung::RegisterZinsverrechnung(QWidget* eltern) : QWidget(eltern), felder_(this) {
     setObjectName("Frame3_Zinsverrechnung");
     auto* raster = new Feldraster;
-    felder_.Anlegen(feldzeilen, *raster);
+    felder_.Anlegen(zinsverrechnungsfelder, *raster);
     felder_.Zeigen({});
     connect(&felder_.Tafel(), &Feldtafel::bearbeitet, this, &RegisterZinsverrechnung::geaendert);
     auto* anordnung = new QVBoxLayout(this);

@@ -12,20 +12,18 @@
 namespace zinfolio {
 namespace {
 
-using Eingabe = Faktortabelleneingabe;
-
-constexpr std::array eingabefelder{
-    Feld<&Eingabe::Pro1>(
+constexpr std::array tabellenfelder{
+    Feld<&Faktortabelleneingabe::Pro1>(
         {.name = "Pro1", .titel = "&Zinssatz von", .filter = Tastenfilter::prozent, .einheit = "%"}),
-    Feld<&Eingabe::Pro2>(
+    Feld<&Faktortabelleneingabe::Pro2>(
         {.name = "Pro2", .titel = "Zinssatz b&is", .filter = Tastenfilter::prozent, .einheit = "%"}),
-    Feld<&Eingabe::Schrittweite>({.name = "Combo2",
-                                  .titel = "&Schrittweite",
-                                  .art = Feldart::liste,
-                                  .texte = schrittweiten,
-                                  .einheit = "%"}),
-    Feld<&Eingabe::J1>({.name = "J1", .titel = "&Jahr von", .filter = Tastenfilter::ganzzahl}),
-    Feld<&Eingabe::J2>({.name = "J2", .titel = "Jah&r bis", .filter = Tastenfilter::ganzzahl}),
+    Feld<&Faktortabelleneingabe::Schrittweite>({.name = "Combo2",
+                                                .titel = "&Schrittweite",
+                                                .art = Feldart::liste,
+                                                .texte = schrittweiten,
+                                                .einheit = "%"}),
+    Feld<&Faktortabelleneingabe::J1>({.name = "J1", .titel = "&Jahr von", .filter = Tastenfilter::ganzzahl}),
+    Feld<&Faktortabelleneingabe::J2>({.name = "J2", .titel = "Jah&r bis", .filter = Tastenfilter::ganzzahl}),
 };
 
 /// What the table shows, so that a picture of it explains itself.
@@ -64,7 +62,7 @@ RegisterTabelle::RegisterTabelle(QWidget* eltern)
 QWidget* RegisterTabelle::Eingabetafel() {
     auto* raster = new Feldraster;
     wahl_.FaktorInRaster(*raster);
-    felder_.Anlegen(eingabefelder, *raster);
+    felder_.Anlegen(tabellenfelder, *raster);
     wahl_.RhythmusInRaster(*raster);
     auto* inhalt = new QWidget;
     auto* spalte = new QVBoxLayout(inhalt);
@@ -75,7 +73,7 @@ QWidget* RegisterTabelle::Eingabetafel() {
 }
 
 Faktortabelleneingabe RegisterTabelle::Lesen() const {
-    Eingabe eingabe;
+    Faktortabelleneingabe eingabe;
     eingabe.wahl = wahl_.Lesen();
     return felder_.Lesen(eingabe);
 }

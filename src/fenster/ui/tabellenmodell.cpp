@@ -19,7 +19,7 @@ QString Kopftext(const std::string& kopf) {
     return text;
 }
 
-Qt::Alignment Ausrichtung(Zellausrichtung ausrichtung) {
+Qt::Alignment QtAusrichtung(Zellausrichtung ausrichtung) {
     return (ausrichtung == Zellausrichtung::links ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter;
 }
 
@@ -56,7 +56,7 @@ QVariant Tabellenmodell::Zellwert(std::size_t zeile, std::size_t spalte, int rol
         case Qt::DisplayRole:
             return QString::fromStdString(inhalt_.zelle(zeile, spalte));
         case Qt::TextAlignmentRole:
-            return QVariant::fromValue(Ausrichtung(inhalt_.spalten[spalte].ausrichtung));
+            return QVariant::fromValue(QtAusrichtung(inhalt_.spalten[spalte].ausrichtung));
         case Qt::AccessibleTextRole:
             return inhalt_.zeilentext ? QString::fromStdString(inhalt_.zeilentext(zeile)) : QVariant();
         case Qt::BackgroundRole:

@@ -12,16 +12,16 @@ namespace {
 /// The columns, counted from 0.
 enum Spalte : std::size_t { stichtag, barwert, kumuliert, zahlungen, deltaBarwert, zinseffekt };
 
-struct Zahlung {
+struct Jahreszahlung {
     Datum datum;
     /// `Tage30` from the first payment: the count between two dates is the difference of theirs.
     int tage30 = 0;
     double betrag = 0;
 };
 
-std::vector<Zahlung> ReiheLesen(std::span<const Staffelsatz> saetze) {
+std::vector<Jahreszahlung> JahresreiheLesen(std::span<const Staffelsatz> saetze) {
     const Datum beginn = DatumVon(saetze.front());
-    std::vector<Zahlung> reihe;
+    std::vector<Jahreszahlung> reihe;
     reihe.reserve(saetze.size());
     for (const Staffelsatz& satz : saetze) {
         const Datum datum = DatumVon(satz);
@@ -48,10 +48,10 @@ struct Rest {
     double summe = 0;
 };
 
-Rest RestBilden(std::span<const Zahlung> reihe, const Datum& tag, Mischzins& zins) {
+Rest RestBilden(std::span<const Jahreszahlung> reihe, const Datum& tag, Mischzins& zins) {
     const int versatz = Tage30(reihe.front().datum, tag);
     Rest rest;
-    for (const Zahlung& zahlung : reihe) {
+    for (const Jahreszahlung& zahlung : reihe) {
         if (zahlung.datum <= tag) continue;
         rest.barwert += zahlung.betrag / zins.Faktor(zahlung.tage30 - versatz);
         rest.summe += zahlung.betrag;
@@ -86,7 +86,7 @@ std::optional<Ablehnung> Jahreswerttabelle(std::span<const Staffelsatz> saetze, 
     if (saetze.empty()) return OhneZahlungen(meldung::erstZahlungen);
     Mischzins zins(Zahlwert(eingabe.Abzins2));
     Datum tag = VorDemErsten(Datum::Lesen(eingabe.BarwDatum));
-    const std::vector<Zahlung> reihe = ReiheLesen(saetze);
+    const std::vector<Jahreszahlung> reihe = JahresreiheLesen(saetze);
     const Datum letzter = Jahresende(reihe.back().datum.Jahr());
     do {
         if (tabelle.Zeilen() == hoechstzahlJahreswerte) {

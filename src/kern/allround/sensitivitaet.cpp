@@ -11,14 +11,14 @@
 namespace zinfolio {
 namespace {
 
-struct Zahlung {
+struct Wertzahlung {
     Datum datum;
     double betrag = 0;
 };
 
 /// The series with its dates read once for all rates.
-std::vector<Zahlung> ReiheLesen(std::span<const Staffelsatz> zahlungen) {
-    std::vector<Zahlung> reihe;
+std::vector<Wertzahlung> WertreiheLesen(std::span<const Staffelsatz> zahlungen) {
+    std::vector<Wertzahlung> reihe;
     reihe.reserve(zahlungen.size());
     for (const Staffelsatz& satz : zahlungen)
         reihe.push_back({DatumVon(satz), satz.Zahlbetrag});
@@ -48,13 +48,13 @@ struct Uebertrag {
     std::string Tage{};
 };
 
-Durchlauf Durchlaufen(std::span<const Zahlung> reihe, double zinssatz, Wertart art) {
+Durchlauf Durchlaufen(std::span<const Wertzahlung> reihe, double zinssatz, Wertart art) {
     Mischzins zins(zinssatz);
     Durchlauf lauf;
     bool gedeckt = false;
     bool vorteilhaft = false;
     for (std::size_t i = 0; i < reihe.size(); ++i) {
-        const Zahlung& zahlung = reihe[i];
+        const Wertzahlung& zahlung = reihe[i];
         lauf.zahlungssumme = Endlich(lauf.zahlungssumme + zahlung.betrag);
         if (lauf.zahlungssumme >= 0 && !gedeckt) lauf.StatDatum = zahlung.datum.Text();
         gedeckt = lauf.zahlungssumme >= 0;
@@ -69,7 +69,7 @@ Durchlauf Durchlaufen(std::span<const Zahlung> reihe, double zinssatz, Wertart a
     return lauf;
 }
 
-void Interpolieren(std::span<const Zahlung> reihe, const Durchlauf& lauf, double vorwert,
+void Interpolieren(std::span<const Wertzahlung> reihe, const Durchlauf& lauf, double vorwert,
                    Uebertrag& uebertrag) {
     const Wendeschritt& wende = lauf.wende;
     if (lauf.wertsumme < 0 || wende.platz < 2) {
@@ -103,7 +103,7 @@ std::optional<Ablehnung> SensitivitaetRechnen(std::span<const Staffelsatz> zahlu
                                               Sensitivitaetseingabe& eingabe, Zellentabelle& tabelle) {
     if (eingabe.MiZins.empty()) eingabe.MiZins = eingabe.Abzins;
     if (zahlungen.empty()) return OhneZahlungen(meldung::erstZahlungen);
-    const std::vector<Zahlung> reihe = ReiheLesen(zahlungen);
+    const std::vector<Wertzahlung> reihe = WertreiheLesen(zahlungen);
     const double schritt = zinsschritte.at(eingabe.Combo2);
     double zins = std::max(Zahlwert(eingabe.MiZins) - 5 * schritt, 0.0) - schritt;
     Uebertrag uebertrag;

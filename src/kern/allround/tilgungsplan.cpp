@@ -13,7 +13,7 @@ namespace {
 constexpr Zahlmuster zinsmuster = Zahlmuster::Lesen("###,##0.00000");
 
 /// Calculates the plan at a rate and gives its closing balance.
-double Durchlauf(std::vector<Staffelsatz>& tableau, double zinssatz, Verzinsungsmethode methode) {
+double Plandurchlauf(std::vector<Staffelsatz>& tableau, double zinssatz, Verzinsungsmethode methode) {
     PlansatzSetzen(tableau.front(), zinssatz);
     for (Staffelsatz& satz : tableau) {
         satz.Periodenzins = 0;
@@ -67,7 +67,7 @@ std::optional<Ablehnung> TilgungsplanRechnen(std::span<const Reihensatz> reihe, 
     std::size_t runden = 0;
     const auto nominalzins = NominalzinsSuchen(effektivzins, [&](double zinssatz) {
         if (beobachter && !beobachter(runden++)) throw RechnungAbgebrochen();
-        return Durchlauf(tableau, zinssatz, eingabe.Combo6);
+        return Plandurchlauf(tableau, zinssatz, eingabe.Combo6);
     });
     if (!nominalzins) return Ablehnung{std::string(meldung::keinTilgungsplan), "", ""};
     plan.Nominalzins = *nominalzins;

@@ -14,7 +14,7 @@ namespace {
 namespace fs = std::filesystem;
 
 // Creating is a second step: a file in a folder that others share may be readable and still refuse O_CREAT.
-Deskriptor ZumLesen(const fs::path& datei) {
+Deskriptor ZumLesenOderNeu(const fs::path& datei) {
     Deskriptor vorhandene(datei, O_RDONLY);
     if (vorhandene.Offen()) return vorhandene;
     if (errno != ENOENT) throw Systemfehler(datei, "gelesen", errno);
@@ -55,7 +55,7 @@ void SatzzahlPruefen(const fs::path& datei, std::size_t anzahl) {
 }
 
 std::vector<std::byte> SatzbytesLesen(const fs::path& datei, std::size_t satzlaenge) {
-    const Deskriptor offene = ZumLesen(datei);
+    const Deskriptor offene = ZumLesenOderNeu(datei);
     std::vector<std::byte> bytes(GanzeSaetze(offene, datei, satzlaenge) * satzlaenge);
     const std::size_t gelesen = Einlesen(offene, datei, bytes);
     bytes.resize(gelesen - gelesen % satzlaenge);
@@ -63,7 +63,7 @@ std::vector<std::byte> SatzbytesLesen(const fs::path& datei, std::size_t satzlae
 }
 
 std::size_t SaetzeZaehlen(const fs::path& datei, std::size_t satzlaenge) {
-    return GanzeSaetze(ZumLesen(datei), datei, satzlaenge);
+    return GanzeSaetze(ZumLesenOderNeu(datei), datei, satzlaenge);
 }
 
 }  // namespace zinfolio

@@ -12,12 +12,6 @@
 
 namespace zinfolio {
 
-/// The number itself; infinity and NaN are a `Rechenfehler`.
-inline double Endlich(double wert) {
-    if (!std::isfinite(wert)) throw Rechenfehler("Das Ergebnis einer Bewertung ist keine Zahl.");
-    return wert;
-}
-
 /// basis ^ exponent. A base of 0 or below under a fractional exponent, and any result that is no number, is a
 /// `Rechenfehler`.
 inline double Potenz(double basis, double exponent) {

@@ -12,11 +12,6 @@ namespace {
 constexpr int jahrestage = 360;
 constexpr int hoechstrunden = 100000;
 
-double Endlich(double wert) {
-    if (!std::isfinite(wert)) throw Rechenfehler("Eine Zahl des Sparplans ist nicht endlich.");
-    return wert;
-}
-
 void JahreDazu(Ratensparplan& plan, int jahre) {
     const int summe = plan.J + jahre;
     if (summe > std::numeric_limits<std::int16_t>::max() || summe < std::numeric_limits<std::int16_t>::min())

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cmath>
 #include <stdexcept>
 
 namespace zinfolio {
@@ -10,5 +11,11 @@ class Rechenfehler : public std::runtime_error {
   public:
     using std::runtime_error::runtime_error;
 };
+
+/// The number itself; infinity and NaN are a `Rechenfehler`.
+inline double Endlich(double wert) {
+    if (!std::isfinite(wert)) throw Rechenfehler("Das Ergebnis ist keine endliche Zahl.");
+    return wert;
+}
 
 }  // namespace zinfolio

@@ -33,7 +33,7 @@ void Wort(std::string& ziel, std::string_view wort, Zahl zahl) {
     ziel += std::to_string(zahl);
 }
 
-void Schalter(std::string& ziel, std::string_view wort, bool von, bool nach) {
+void WortSchalten(std::string& ziel, std::string_view wort, bool von, bool nach) {
     if (von == nach) return;
     Wort(ziel, wort);
     if (!nach) ziel += '0';
@@ -50,9 +50,9 @@ void LaengeAnhaengen(std::string& ziel, std::string_view wort, std::int16_t laen
 }
 
 void HalteAnhaengen(std::string& ziel, const Absatzformat& format) {
-    Schalter(ziel, "keep", false, format.zusammenhalten);
-    Schalter(ziel, "keepn", false, format.beimNaechstenHalten);
-    Schalter(ziel, "pagebb", false, format.seitenwechselDavor);
+    WortSchalten(ziel, "keep", false, format.zusammenhalten);
+    WortSchalten(ziel, "keepn", false, format.beimNaechstenHalten);
+    WortSchalten(ziel, "pagebb", false, format.seitenwechselDavor);
     if (format.ohneTrennung) Wort(ziel, "hyph", 0);
 }
 
@@ -65,11 +65,11 @@ void ZeichenwoerterAnhaengen(std::string& ziel, const Zeichenformat& von, const 
                              const Rtftabellen& tabellen) {
     if (von.schrift != nach.schrift) Wort(ziel, "f", tabellen.Schrift(nach.schrift));
     if (von.groesse != nach.groesse) Wort(ziel, "fs", nach.groesse);
-    Schalter(ziel, "b", von.fett, nach.fett);
-    Schalter(ziel, "i", von.kursiv, nach.kursiv);
+    WortSchalten(ziel, "b", von.fett, nach.fett);
+    WortSchalten(ziel, "i", von.kursiv, nach.kursiv);
     if (von.unterstreichung != nach.unterstreichung) Wort(ziel, Von(unterstreichungen, nach.unterstreichung));
-    Schalter(ziel, "strike", von.durchgestrichen, nach.durchgestrichen);
-    Schalter(ziel, "v", von.verborgen, nach.verborgen);
+    WortSchalten(ziel, "strike", von.durchgestrichen, nach.durchgestrichen);
+    WortSchalten(ziel, "v", von.verborgen, nach.verborgen);
     SchreibungAnhaengen(ziel, von.schreibung, nach.schreibung);
     if (von.lage != nach.lage) Wort(ziel, Von(lagen, nach.lage));
     if (von.farbe != nach.farbe) Wort(ziel, "cf", tabellen.Farbnummer(nach.farbe));

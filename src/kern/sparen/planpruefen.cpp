@@ -17,8 +17,8 @@ bool IstKurz(const std::string& datumstext) {
     return Zeichenzahl(datumstext) < kuerzestesDatum;
 }
 
-constexpr Planpruefung spardatum{[](const Sparplan& p, double) { return IstKurz(p.ratdatum1); },
-                                 meldung::spardatumFehlt, sparfeld::ratdatum1.name};
+constexpr Planpruefung spardatumDa{[](const Sparplan& p, double) { return IstKurz(p.ratdatum1); },
+                                   meldung::spardatumFehlt, sparfeld::ratdatum1.name};
 
 void NullenFuellen(const Sparform& form, Sparplan& plan) {
     for (const Formzeile& zeile : form.felder) {
@@ -87,7 +87,7 @@ constexpr Planpruefung zielNichtKleiner{
 
 std::optional<Ablehnung> PlanPruefen(const Sparform& form, Sparplan& plan, const Sparstand& stand) {
     NullenFuellen(form, plan);
-    if (auto ablehnung = Pruefe(spardatum, plan, stand.kapital)) return ablehnung;
+    if (auto ablehnung = Pruefe(spardatumDa, plan, stand.kapital)) return ablehnung;
     const double kapital = form.ziel == Sparziel::anfangskapital ? stand.kapital : Zahl(plan.AnfVermögen);
     if (kapital == 0) plan.Anfdatum = plan.ratdatum1;
     for (const Planpruefung* pruefung : form.pruefungen) {

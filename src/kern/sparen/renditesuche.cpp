@@ -14,8 +14,8 @@
 namespace zinfolio {
 namespace {
 
-constexpr double zweiterVersuch = 0.98;
-constexpr double gleicheAbweichung = 0.01;
+constexpr double zweiterZins = 0.98;
+constexpr double gleicheEndstaende = 0.01;
 constexpr int hoechstzahlSchritte = 15;
 /// The part of the target by which the account may miss it.
 constexpr double toleranzteiler = 100'000;
@@ -47,14 +47,14 @@ double NominalzinsSuchen(Spargang& gang, double startzins, double ziel) {
         sekante.alt.f = gang.versuche.Ganz({.zins = startzins}) - ziel;
         if (startzins == 0) return;
         schnelllauf.emplace(gang.form, gang.plan, gang.ergebnis.lauf);
-        const double zweiter = zweiterVersuch * startzins;
+        const double zweiter = zweiterZins * startzins;
         sekante.neu = {zweiter, abweichung(zweiter)};
         f1 = sekante.neu.f;
         for (int schritt = 1;; ++schritt) {
             const double zins = Sekantenschritt(sekante);
             sekante = {sekante.neu, {zins, abweichung(zins)}};
             f1 = sekante.neu.f;
-            if (std::fabs(f1 - sekante.alt.f) < gleicheAbweichung || schritt == hoechstzahlSchritte) return;
+            if (std::fabs(f1 - sekante.alt.f) < gleicheEndstaende || schritt == hoechstzahlSchritte) return;
         }
     });
     return sekante.neu.x;

@@ -13,7 +13,7 @@
 namespace zinfolio {
 namespace {
 
-constexpr double gleicheAbweichung = 0.001;
+constexpr double gleicheFunktionswerte = 0.001;
 
 /// The way of a search, to find out when it goes round in a ring.
 class Suchweg {
@@ -54,7 +54,7 @@ Suchpunkt CentsucheLaufen(const Suchaufgabe& aufgabe, Sekante sekante) {
         double x = RundeKaufmaennisch(Sekantenschritt(sekante), 2);
         if (aufgabe.begrenzen) x = aufgabe.begrenzen(x);
         sekante = {sekante.neu, {x, aufgabe.abweichung(x)}};
-        if (std::fabs(sekante.alt.f - sekante.neu.f) < gleicheAbweichung) return sekante.neu;
+        if (std::fabs(sekante.alt.f - sekante.neu.f) < gleicheFunktionswerte) return sekante.neu;
         if (const Suchpunkt* bester = weg.Ringbester(sekante)) return *bester;
     }
     return {sekante.neu.x, std::numeric_limits<double>::infinity()};

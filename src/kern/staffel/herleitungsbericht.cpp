@@ -33,7 +33,7 @@ double Zahlenwert(const Ergebnissatz& satz) {
 constexpr std::string_view faktorkopf = "Faktor";
 constexpr std::size_t faktorspalte = 2;
 
-constexpr std::array spalten{
+constexpr std::array herleitungsspalten{
     Spalte<Ergebnissatz>{.kopf = "Datum", .zelle = Zelle<0>, .art = Zellart::datum},
     Spalte<Ergebnissatz>{
         .kopf = "Betrag", .zelle = Zelle<1>, .zahl = Zahlenwert<&Ergebnissatz::Ergebnisbetrag>},
@@ -53,7 +53,8 @@ constexpr std::array spalten{
 Tabelleninhalt HerleitungstabelleBilden(std::shared_ptr<const std::vector<Ergebnissatz>> zeilen,
                                         std::string_view effektivergebnis) {
     if (!zeilen) zeilen = std::make_shared<const std::vector<Ergebnissatz>>();
-    Tabelleninhalt inhalt = TabelleBilden<Ergebnissatz>({spalten.begin(), spalten.end()}, std::move(zeilen));
+    Tabelleninhalt inhalt = TabelleBilden<Ergebnissatz>(
+        {herleitungsspalten.begin(), herleitungsspalten.end()}, std::move(zeilen));
     Tabellenspalte& faktor = inhalt.spalten[faktorspalte];
     faktor.kopf.append(" ").append(Getrimmt(effektivergebnis)).append(" %");
     faktor.berichtskopf = faktorkopf;

@@ -34,7 +34,7 @@ void LeereFelderFuellen(Konditionseingabe& e) {
     }
 }
 
-float Satz(const std::string& text) {
+float Zinssatz(const std::string& text) {
     return static_cast<float>(Zahl(text));
 }
 
@@ -61,11 +61,11 @@ Konditionspruefung KonditionPruefen(Konditionseingabe& eingabe, std::span<const 
 
 Staffelsatz KonditionErzeugen(const Konditionseingabe& eingabe) {
     return Konditionssatz(eingabe.Gültigdatum, {
-                                                   .Gutzins1 = Satz(eingabe.Gutzins1),
-                                                   .Gutzins2 = Satz(eingabe.Gutzins2),
+                                                   .Gutzins1 = Zinssatz(eingabe.Gutzins1),
+                                                   .Gutzins2 = Zinssatz(eingabe.Gutzins2),
                                                    .Guthabenlinie = Zahl(eingabe.Guthabenlinie),
-                                                   .Kreditzins1 = Satz(eingabe.Kreditzins1),
-                                                   .Kreditzins2 = Satz(eingabe.Kreditzins2),
+                                                   .Kreditzins1 = Zinssatz(eingabe.Kreditzins1),
+                                                   .Kreditzins2 = Zinssatz(eingabe.Kreditzins2),
                                                    .Kreditlinie = Zahl(eingabe.Kreditlinie),
                                                    .Zweitzinsart = eingabe.Zweitzinsart,
                                                });

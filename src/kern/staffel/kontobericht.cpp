@@ -20,8 +20,8 @@ constexpr Zahlmuster satzmuster = Zahlmuster::Lesen("###,#0.00000");
 constexpr std::string_view konditionsueberschrift =
     "Zinsdaten                Guthabenzins1         Guthabenzins2          Kreditzins1          Kreditzins2";
 /// The date, then from one right edge of that heading to the next.
-constexpr int datumsspalte = 10;
-constexpr std::array satzspalten{38 - datumsspalte, 60 - 38, 81 - 60, 102 - 81};
+constexpr int datumsbreite = 10;
+constexpr std::array satzspalten{38 - datumsbreite, 60 - 38, 81 - 60, 102 - 81};
 
 /// By the number of the view.
 constexpr std::array<Ansichtsformat, 4> ansichtsformate{{
@@ -51,7 +51,7 @@ std::string Zinsdatenzeile(const Staffelsatz& satz) {
     const Konditionen& k = satz.kondition;
     const std::array saetze{k.Gutzins1, k.Gutzins2, k.Kreditzins1, k.Kreditzins2};
     std::string datum(satz.Satzdatum.Getrimmt());
-    datum.resize(datumsspalte, ' ');
+    datum.resize(datumsbreite, ' ');
     std::string zeile = NachUtf8(datum);
     for (std::size_t i = 0; i < saetze.size(); ++i)
         zeile += Rechtsbuendig(Format(saetze[i], satzmuster) + " %", satzspalten[i]);

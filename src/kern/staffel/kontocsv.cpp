@@ -120,7 +120,7 @@ std::vector<Staffelsatz> Saetze(std::string_view text, Kopf kopf, Satzbilder bil
     return saetze;
 }
 
-Staffelsatz Zahlungszeile(Zeilenfelder felder) {
+Staffelsatz AusZahlungszeile(Zeilenfelder felder) {
     const std::string& datum = felder.Datumstext();
     const double betrag = felder.Zahl();
     return Zahlungssatz(datum, betrag, felder.Text());
@@ -142,7 +142,7 @@ Staffelsatz Konditionszeile(Zeilenfelder felder) {
 }  // namespace
 
 std::vector<Staffelsatz> ZahlungenAusCsv(std::string_view text) {
-    return Saetze(text, zahlungskopf, Zahlungszeile);
+    return Saetze(text, zahlungskopf, AusZahlungszeile);
 }
 
 std::vector<Staffelsatz> KonditionenAusCsv(std::string_view text) {

@@ -5,7 +5,7 @@
 namespace zinfolio {
 namespace {
 
-Reihensatz Zahlungszeile(const Staffelsatz& zahlung) {
+Reihensatz ReihensatzVon(const Staffelsatz& zahlung) {
     Reihensatz zeile = Reihenzeile(zahlung.Satzdatum.Roh(), -zahlung.Zahlbetrag);
     zeile.Reihenschluessel = zahlung.Sortierschluessel;
     return zeile;
@@ -16,7 +16,7 @@ bool ZahlungenAnhaengen(std::span<const Staffelsatz> loesung, std::vector<Reihen
     if (loesung.size() > HoechstzahlSaetze) return false;
     try {
         for (const Staffelsatz& satz : loesung) {
-            if (satz.Zahlungsart == zahlungsart::zahlung) reihe.push_back(Zahlungszeile(satz));
+            if (satz.Zahlungsart == zahlungsart::zahlung) reihe.push_back(ReihensatzVon(satz));
         }
     } catch (const Datumsfehler&) {
         return false;

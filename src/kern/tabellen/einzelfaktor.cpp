@@ -55,9 +55,7 @@ double Anwenden(Faktorwahl wahl, const Zahlenwerte& werte) {
     const bool teilt = wahl.faktor == Finanzfaktor::AbF;
     if (teilt) wahl.faktor = Finanzfaktor::AuF;
     const double faktor = Faktorwert(wahl, werte.zins, werte.jahre);
-    const double ergebnis = teilt ? werte.betrag / faktor : faktor * werte.betrag;
-    if (!std::isfinite(ergebnis)) throw Rechenfehler("Das Ergebnis ist keine endliche Zahl.");
-    return ergebnis;
+    return Endlich(teilt ? werte.betrag / faktor : faktor * werte.betrag);
 }
 
 std::string_view Platzhalter(char zeichen, const Einzelfaktoreingabe& eingabe, std::string_view ergebnis) {

@@ -7,11 +7,6 @@
 namespace zinfolio {
 namespace {
 
-double Endlich(double wert) {
-    if (!std::isfinite(wert)) throw Rechenfehler("Ein Finanzfaktor ist keine endliche Zahl.");
-    return wert;
-}
-
 /// P of the formulas.
 double Jahreswert(const Faktorwahl& wahl, double zins) {
     return Endlich(Rentenkonstante(wahl.rhythmus, wahl.faelligkeit) + Zahlungszahl(wahl.rhythmus) / zins);

@@ -29,7 +29,7 @@ constexpr Selbstwertzeile<Fintabellen> Wahl(std::size_t satz, std::size_t eintra
 constexpr auto tab = &Fintabellen::tabelle;
 constexpr auto einzeln = &Fintabellen::einzeln;
 
-constexpr std::array zeilen{
+constexpr std::array fintabellenzeilen{
     Wahl<tab, &Faktorwahl::faktor>(1, finanzfaktoren.size()),
     Feld<tab, &Faktortabelleneingabe::Schrittweite>(2, schrittweiten.size()),
     Feld<tab, &Faktortabelleneingabe::Pro1>(3),
@@ -45,16 +45,16 @@ constexpr std::array zeilen{
     Wahl<einzeln, &Faktorwahl::faelligkeit>(13, rentenfaelligkeiten.size()),
 };
 
-constexpr Selbstwertaufbau<Fintabellen> aufbau{300, zeilen};
+constexpr Selbstwertaufbau<Fintabellen> fintabellenaufbau{300, fintabellenzeilen};
 
 }  // namespace
 
 Fintabellen FintabellenLesen(const std::filesystem::path& ordner) {
-    return aufbau.Lesen(ordner / datei);
+    return fintabellenaufbau.Lesen(ordner / datei);
 }
 
 void FintabellenSchreiben(const std::filesystem::path& ordner, const Fintabellen& eingabe) {
-    aufbau.Schreiben(ordner / datei, eingabe);
+    fintabellenaufbau.Schreiben(ordner / datei, eingabe);
 }
 
 }  // namespace zinfolio

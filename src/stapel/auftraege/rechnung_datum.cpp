@@ -10,11 +10,11 @@ struct Eingabedatum {
     std::int16_t Laenge = 10;
 };
 
-constexpr auto felder =
+constexpr auto datumfelder =
     Auftragsfelder(Pflichtfeld<&Eingabedatum::Feld>("Feld"), Pflichtfeld<&Eingabedatum::Heute>("Heute"),
                    Kannfeld<&Eingabedatum::Laenge>("Laenge"));
 
-std::optional<Ablehnung> Rechne(const Eingabedatum& eingabe, JsonSchreiber& ergebnis) {
+std::optional<Ablehnung> RechneDatum(const Eingabedatum& eingabe, JsonSchreiber& ergebnis) {
     const Datumspruefung pruefung = DatumPruefen(eingabe.Feld, eingabe.Heute, eingabe.Laenge);
     ergebnis.Feld("Feld", pruefung.feld);
     ergebnis.Feld("Abbruch", pruefung.abbruch);
@@ -23,6 +23,6 @@ std::optional<Ablehnung> Rechne(const Eingabedatum& eingabe, JsonSchreiber& erge
 
 }  // namespace
 
-constexpr Rechnungsart rechnungDatum = Auftragsart<felder, Rechne>("datum");
+constexpr Rechnungsart rechnungDatum = Auftragsart<datumfelder, RechneDatum>("datum");
 
 }  // namespace zinfolio

@@ -14,12 +14,12 @@ struct Faktorauftrag {
     std::string Betrag2;
 };
 
-constexpr auto felder = Auftragsfelder(
+constexpr auto faktorfelder = Auftragsfelder(
     Pflichtfeld<&Faktorauftrag::Combo7>("Combo7"), Pflichtfeld<&Faktorauftrag::Combo5>("Combo5"),
     Pflichtfeld<&Faktorauftrag::Combo6>("Combo6"), Pflichtfeld<&Faktorauftrag::Zins2>("Zins2"),
     Pflichtfeld<&Faktorauftrag::Jahre2>("Jahre2"), Pflichtfeld<&Faktorauftrag::Betrag2>("Betrag2"));
 
-std::optional<Ablehnung> Rechne(const Faktorauftrag& auftrag, JsonSchreiber& ergebnis) {
+std::optional<Ablehnung> RechneFaktor(const Faktorauftrag& auftrag, JsonSchreiber& ergebnis) {
     Einzelfaktor faktor;
     if (const auto ablehnung = EinzelfaktorRechnen({.wahl = {auftrag.Combo7, auftrag.Combo5, auftrag.Combo6},
                                                     .Zins2 = auftrag.Zins2,
@@ -34,6 +34,6 @@ std::optional<Ablehnung> Rechne(const Faktorauftrag& auftrag, JsonSchreiber& erg
 
 }  // namespace
 
-constexpr Rechnungsart rechnungFaktor = Auftragsart<felder, Rechne>("faktor");
+constexpr Rechnungsart rechnungFaktor = Auftragsart<faktorfelder, RechneFaktor>("faktor");
 
 }  // namespace zinfolio

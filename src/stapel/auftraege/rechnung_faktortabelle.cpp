@@ -16,7 +16,7 @@ struct Tabellenauftrag {
     std::string J2;
 };
 
-constexpr auto felder = Auftragsfelder(
+constexpr auto faktortabellefelder = Auftragsfelder(
     Pflichtfeld<&Tabellenauftrag::Combo1>("Combo1"), Pflichtfeld<&Tabellenauftrag::Combo2>("Combo2"),
     Pflichtfeld<&Tabellenauftrag::Combo3>("Combo3"), Pflichtfeld<&Tabellenauftrag::Combo4>("Combo4"),
     Pflichtfeld<&Tabellenauftrag::Pro1>("Pro1"), Pflichtfeld<&Tabellenauftrag::Pro2>("Pro2"),
@@ -36,7 +36,7 @@ void TabelleSchreiben(const Faktortabelle& tabelle, JsonSchreiber& ergebnis) {
     ergebnis.ListeZu();
 }
 
-std::optional<Ablehnung> Rechne(const Tabellenauftrag& auftrag, JsonSchreiber& ergebnis) {
+std::optional<Ablehnung> RechneFaktortabelle(const Tabellenauftrag& auftrag, JsonSchreiber& ergebnis) {
     Faktortabelle tabelle;
     if (const auto ablehnung = FaktortabelleRechnen({.wahl = {auftrag.Combo1, auftrag.Combo3, auftrag.Combo4},
                                                      .Schrittweite = auftrag.Combo2,
@@ -52,6 +52,7 @@ std::optional<Ablehnung> Rechne(const Tabellenauftrag& auftrag, JsonSchreiber& e
 
 }  // namespace
 
-constexpr Rechnungsart rechnungFaktortabelle = Auftragsart<felder, Rechne>("faktortabelle");
+constexpr Rechnungsart rechnungFaktortabelle =
+    Auftragsart<faktortabellefelder, RechneFaktortabelle>("faktortabelle");
 
 }  // namespace zinfolio

@@ -13,11 +13,11 @@ struct Jahreswertauftrag {
     std::string BarwDatum;
 };
 
-constexpr auto felder = Auftragsfelder(Pflichtfeld<&Jahreswertauftrag::Zahlungen>("Zahlungen"),
-                                       Pflichtfeld<&Jahreswertauftrag::Abzins2>("Abzins2"),
-                                       Pflichtfeld<&Jahreswertauftrag::BarwDatum>("BarwDatum"));
+constexpr auto jahreswertefelder = Auftragsfelder(Pflichtfeld<&Jahreswertauftrag::Zahlungen>("Zahlungen"),
+                                                  Pflichtfeld<&Jahreswertauftrag::Abzins2>("Abzins2"),
+                                                  Pflichtfeld<&Jahreswertauftrag::BarwDatum>("BarwDatum"));
 
-std::optional<Ablehnung> Rechne(const Jahreswertauftrag& auftrag, JsonSchreiber& ergebnis) {
+std::optional<Ablehnung> RechneJahreswerte(const Jahreswertauftrag& auftrag, JsonSchreiber& ergebnis) {
     LaengePruefen(auftrag.Zahlungen);
     Jahreswerteingabe eingabe{auftrag.Abzins2, auftrag.BarwDatum};
     Zellentabelle tabelle;
@@ -28,6 +28,6 @@ std::optional<Ablehnung> Rechne(const Jahreswertauftrag& auftrag, JsonSchreiber&
 
 }  // namespace
 
-constexpr Rechnungsart rechnungJahreswerte = Auftragsart<felder, Rechne>("jahreswerte");
+constexpr Rechnungsart rechnungJahreswerte = Auftragsart<jahreswertefelder, RechneJahreswerte>("jahreswerte");
 
 }  // namespace zinfolio

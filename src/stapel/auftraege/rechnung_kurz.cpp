@@ -14,7 +14,7 @@ struct Kurztext {
     const char* stelle = nullptr;
 };
 
-struct Formwahl {
+struct Kurzformwahl {
     const Kurzrechner* rechner = nullptr;
 };
 struct Zahlweise {
@@ -26,13 +26,13 @@ struct Modus {
 
 /// Which of the fields a job has to have depends on its form.
 struct Kurzauftrag {
-    Formwahl Form;
+    Kurzformwahl Form;
     Zahlweise m;
     Modus Zahlungsmodus;
     Kurztext rate, Laufzeitjahre, Laufjahre, Lauftage, Zins, Kap, kap, Vendwert, Vwert;
 };
 
-void FeldLesen(JsonWert& wert, Formwahl& ziel) {
+void FeldLesen(JsonWert& wert, Kurzformwahl& ziel) {
     const auto form = wert.Text();
     for (const Kurzrechner& rechner : AlleKurzrechner())
         if (rechner.name == form) ziel.rechner = &rechner;
@@ -55,7 +55,7 @@ void FeldLesen(JsonWert& wert, Modus& ziel) {
     ziel.wert = static_cast<std::int16_t>(wert.Ganzzahl(1, 2));
 }
 
-constexpr auto felder = Auftragsfelder(
+constexpr auto kurzfelder = Auftragsfelder(
     Pflichtfeld<&Kurzauftrag::Form>("Form"), Pflichtfeld<&Kurzauftrag::m>("m"),
     Pflichtfeld<&Kurzauftrag::Zahlungsmodus>("Zahlungsmodus"), Kannfeld<&Kurzauftrag::rate>("rate"),
     Kannfeld<&Kurzauftrag::Laufzeitjahre>("Laufzeitjahre"), Kannfeld<&Kurzauftrag::Laufjahre>("Laufjahre"),
@@ -63,7 +63,7 @@ constexpr auto felder = Auftragsfelder(
     Kannfeld<&Kurzauftrag::Kap>("Kap"), Kannfeld<&Kurzauftrag::kap>("kap"),
     Kannfeld<&Kurzauftrag::Vendwert>("Vendwert"), Kannfeld<&Kurzauftrag::Vwert>("Vwert"));
 
-constexpr std::array<std::pair<std::string_view, Kurztext Kurzauftrag::*>, 9> texte{{
+constexpr std::array<std::pair<std::string_view, Kurztext Kurzauftrag::*>, 9> kurztexte{{
     {"rate", &Kurzauftrag::rate},
     {"Laufzeitjahre", &Kurzauftrag::Laufzeitjahre},
     {"Laufjahre", &Kurzauftrag::Laufjahre},
@@ -88,7 +88,7 @@ const Kurzfeld* FeldSuchen(const Kurzrechner& rechner, std::string_view name) {
 /// Fields that another form has are unknown here; those of this one must be there, but for its results.
 Kurzeingabe EingabeAus(const Kurzauftrag& auftrag) {
     Kurzeingabe eingabe{.texte = {}, .m = auftrag.m.wert, .Zahlungsmodus = auftrag.Zahlungsmodus.wert};
-    for (const auto& [name, glied] : texte) {
+    for (const auto& [name, glied] : kurztexte) {
         const Kurztext& text = auftrag.*glied;
         const Kurzfeld* feld = FeldSuchen(*auftrag.Form.rechner, name);
         const bool da = text.stelle != nullptr;
@@ -100,7 +100,7 @@ Kurzeingabe EingabeAus(const Kurzauftrag& auftrag) {
     return eingabe;
 }
 
-std::optional<Ablehnung> Rechne(const Kurzauftrag& auftrag, JsonSchreiber& ergebnis) {
+std::optional<Ablehnung> RechneKurz(const Kurzauftrag& auftrag, JsonSchreiber& ergebnis) {
     Kurzeingabe eingabe = EingabeAus(auftrag);
     const Kurzrechner& rechner = *auftrag.Form.rechner;
     if (auto ablehnung = KurzRechnen(rechner, eingabe)) return ablehnung;
@@ -111,6 +111,6 @@ std::optional<Ablehnung> Rechne(const Kurzauftrag& auftrag, JsonSchreiber& ergeb
 
 }  // namespace
 
-constexpr Rechnungsart rechnungKurz = Auftragsart<felder, Rechne>("kurz");
+constexpr Rechnungsart rechnungKurz = Auftragsart<kurzfelder, RechneKurz>("kurz");
 
 }  // namespace zinfolio

@@ -15,13 +15,13 @@ struct Periode {
     float Satz2 = 0;
 };
 
-constexpr auto felder =
+constexpr auto periodenzinsenfelder =
     Auftragsfelder(Pflichtfeld<&Periode::Von>("Von"), Pflichtfeld<&Periode::Bis>("Bis"),
                    Pflichtfeld<&Periode::Verzinsungsmethode>("Verzinsungsmethode"),
                    Pflichtfeld<&Periode::Betrag1>("Betrag1"), Pflichtfeld<&Periode::Satz1>("Satz1"),
                    Pflichtfeld<&Periode::Betrag2>("Betrag2"), Pflichtfeld<&Periode::Satz2>("Satz2"));
 
-std::optional<Ablehnung> Rechne(const Periode& periode, JsonSchreiber& ergebnis) {
+std::optional<Ablehnung> RechnePeriodenzinsen(const Periode& periode, JsonSchreiber& ergebnis) {
     const Periodenergebnis zinsen =
         PeriodenZinsen(periode.Von, periode.Bis, periode.Verzinsungsmethode, {periode.Satz1, periode.Betrag1},
                        {periode.Satz2, periode.Betrag2});
@@ -32,6 +32,7 @@ std::optional<Ablehnung> Rechne(const Periode& periode, JsonSchreiber& ergebnis)
 
 }  // namespace
 
-constexpr Rechnungsart rechnungPeriodenzinsen = Auftragsart<felder, Rechne>("periodenzinsen");
+constexpr Rechnungsart rechnungPeriodenzinsen =
+    Auftragsart<periodenzinsenfelder, RechnePeriodenzinsen>("periodenzinsen");
 
 }  // namespace zinfolio

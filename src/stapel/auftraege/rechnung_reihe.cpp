@@ -15,10 +15,10 @@ struct Reihenauftrag {
     zinfolio::Effektivmethode Effektivmethode{};
 };
 
-constexpr auto felder = Auftragsfelder(Pflichtfeld<&Reihenauftrag::Zahlungen>("Zahlungen"),
-                                       Pflichtfeld<&Reihenauftrag::Effektivmethode>("Effektivmethode"));
+constexpr auto reihefelder = Auftragsfelder(Pflichtfeld<&Reihenauftrag::Zahlungen>("Zahlungen"),
+                                            Pflichtfeld<&Reihenauftrag::Effektivmethode>("Effektivmethode"));
 
-std::optional<Ablehnung> Rechne(const Reihenauftrag& reihe, JsonSchreiber& ergebnis) {
+std::optional<Ablehnung> RechneReihe(const Reihenauftrag& reihe, JsonSchreiber& ergebnis) {
     if (reihe.Zahlungen.saetze.size() > HoechstzahlSaetze) throw Rechenfehler("Mehr als 32767 Zahlungen.");
     const auto& saetze = reihe.Zahlungen.saetze;
     if (saetze.empty()) return OhneZahlungen(meldung::erstDieZahlungen);
@@ -28,6 +28,6 @@ std::optional<Ablehnung> Rechne(const Reihenauftrag& reihe, JsonSchreiber& ergeb
 
 }  // namespace
 
-constexpr Rechnungsart rechnungReihe = Auftragsart<felder, Rechne>("reihe");
+constexpr Rechnungsart rechnungReihe = Auftragsart<reihefelder, RechneReihe>("reihe");
 
 }  // namespace zinfolio

@@ -7,15 +7,16 @@
 namespace zinfolio {
 namespace {
 
-struct Wertauftrag {
+struct Reihenwertauftrag {
     Reihenliste Zahlungen;
     zinfolio::Effektivmethode Effektivmethode{};
     double Zinssatz = 0;
 };
 
-constexpr auto felder = Auftragsfelder(Pflichtfeld<&Wertauftrag::Zahlungen>("Zahlungen"),
-                                       Pflichtfeld<&Wertauftrag::Effektivmethode>("Effektivmethode"),
-                                       Pflichtfeld<&Wertauftrag::Zinssatz>("Zinssatz"));
+constexpr auto reihenwertfelder =
+    Auftragsfelder(Pflichtfeld<&Reihenwertauftrag::Zahlungen>("Zahlungen"),
+                   Pflichtfeld<&Reihenwertauftrag::Effektivmethode>("Effektivmethode"),
+                   Pflichtfeld<&Reihenwertauftrag::Zinssatz>("Zinssatz"));
 
 void TabelleSchreiben(std::string_view name, const std::optional<std::vector<Ergebnissatz>>& tabelle,
                       JsonSchreiber& ergebnis) {
@@ -34,7 +35,7 @@ void TabelleSchreiben(std::string_view name, const std::optional<std::vector<Erg
     ergebnis.ListeZu();
 }
 
-std::optional<Ablehnung> Rechne(const Wertauftrag& reihe, JsonSchreiber& ergebnis) {
+std::optional<Ablehnung> RechneReihenwert(const Reihenwertauftrag& reihe, JsonSchreiber& ergebnis) {
     if (reihe.Zahlungen.saetze.size() > HoechstzahlSaetze) throw Rechenfehler("Mehr als 32767 Zahlungen.");
     const Reihenauswertung werte =
         ReiheAuswerten(reihe.Zahlungen.saetze, reihe.Effektivmethode, reihe.Zinssatz, Tabellen::schreiben);
@@ -48,6 +49,6 @@ std::optional<Ablehnung> Rechne(const Wertauftrag& reihe, JsonSchreiber& ergebni
 
 }  // namespace
 
-constexpr Rechnungsart rechnungReihenwert = Auftragsart<felder, Rechne>("reihenwert");
+constexpr Rechnungsart rechnungReihenwert = Auftragsart<reihenwertfelder, RechneReihenwert>("reihenwert");
 
 }  // namespace zinfolio

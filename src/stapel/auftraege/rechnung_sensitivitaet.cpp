@@ -9,11 +9,11 @@ namespace zinfolio {
 namespace {
 
 /// Index of the step between two rates.
-struct Schrittweite {
+struct Sensitivitaetsschritt {
     std::size_t index = 0;
 };
 
-void FeldLesen(JsonWert& wert, Schrittweite& ziel) {
+void FeldLesen(JsonWert& wert, Sensitivitaetsschritt& ziel) {
     ziel.index =
         static_cast<std::size_t>(wert.Ganzzahl(0, static_cast<std::int64_t>(zinsschritte.size()) - 1));
 }
@@ -24,17 +24,18 @@ struct Sensitivitaetsauftrag {
     std::string Abzins2;
     std::string BarwDatum;
     std::string MiZins;
-    Schrittweite Combo2;
+    Sensitivitaetsschritt Combo2;
 };
 
-constexpr auto felder = Auftragsfelder(Pflichtfeld<&Sensitivitaetsauftrag::Zahlungen>("Zahlungen"),
-                                       Pflichtfeld<&Sensitivitaetsauftrag::Anzeigeart>("Anzeigeart"),
-                                       Pflichtfeld<&Sensitivitaetsauftrag::Abzins2>("Abzins2"),
-                                       Pflichtfeld<&Sensitivitaetsauftrag::BarwDatum>("BarwDatum"),
-                                       Pflichtfeld<&Sensitivitaetsauftrag::MiZins>("MiZins"),
-                                       Pflichtfeld<&Sensitivitaetsauftrag::Combo2>("Combo2"));
+constexpr auto sensitivitaetfelder =
+    Auftragsfelder(Pflichtfeld<&Sensitivitaetsauftrag::Zahlungen>("Zahlungen"),
+                   Pflichtfeld<&Sensitivitaetsauftrag::Anzeigeart>("Anzeigeart"),
+                   Pflichtfeld<&Sensitivitaetsauftrag::Abzins2>("Abzins2"),
+                   Pflichtfeld<&Sensitivitaetsauftrag::BarwDatum>("BarwDatum"),
+                   Pflichtfeld<&Sensitivitaetsauftrag::MiZins>("MiZins"),
+                   Pflichtfeld<&Sensitivitaetsauftrag::Combo2>("Combo2"));
 
-std::optional<Ablehnung> Rechne(const Sensitivitaetsauftrag& auftrag, JsonSchreiber& ergebnis) {
+std::optional<Ablehnung> RechneSensitivitaet(const Sensitivitaetsauftrag& auftrag, JsonSchreiber& ergebnis) {
     LaengePruefen(auftrag.Zahlungen);
     const auto& zahlungen = auftrag.Zahlungen.saetze;
     // The table borrows a value from the analysis that the form has run before it.
@@ -55,6 +56,7 @@ std::optional<Ablehnung> Rechne(const Sensitivitaetsauftrag& auftrag, JsonSchrei
 
 }  // namespace
 
-constexpr Rechnungsart rechnungSensitivitaet = Auftragsart<felder, Rechne>("sensitivitaet");
+constexpr Rechnungsart rechnungSensitivitaet =
+    Auftragsart<sensitivitaetfelder, RechneSensitivitaet>("sensitivitaet");
 
 }  // namespace zinfolio

@@ -14,11 +14,11 @@ namespace zinfolio {
 namespace {
 
 /// A form of the family by its name.
-struct Formwahl {
+struct Sparformwahl {
     const Sparform* form = nullptr;
 };
 
-void FeldLesen(JsonWert& wert, Formwahl& ziel) {
+void FeldLesen(JsonWert& wert, Sparformwahl& ziel) {
     ziel.form = SparformSuchen(wert.Text());
     if (ziel.form == nullptr)
         wert.Ungueltig(
@@ -96,13 +96,13 @@ void FeldLesen(JsonWert& wert, Einheit& ziel) {
 }
 
 struct Sparauftrag {
-    Formwahl Form;
+    Sparformwahl Form;
     Sparfelder Felder;
     zinfolio::Zinstabelle Zinstabelle;
     Einheit Command6;
 };
 
-constexpr auto felder = Auftragsfelder(
+constexpr auto sparenfelder = Auftragsfelder(
     Pflichtfeld<&Sparauftrag::Form>("Form"), Pflichtfeld<&Sparauftrag::Felder>("Felder"),
     Kannfeld<&Sparauftrag::Zinstabelle>("Zinstabelle"), Kannfeld<&Sparauftrag::Command6>("Command6"));
 
@@ -131,7 +131,7 @@ Sparplan PlanAus(const Sparauftrag& auftrag) {
     return plan;
 }
 
-std::optional<Ablehnung> Rechne(const Sparauftrag& auftrag, JsonSchreiber& ergebnis) {
+std::optional<Ablehnung> RechneSparen(const Sparauftrag& auftrag, JsonSchreiber& ergebnis) {
     const Sparform& form = *auftrag.Form.form;
     Sparplan plan = PlanAus(auftrag);
     Sparstand stand;
@@ -143,6 +143,6 @@ std::optional<Ablehnung> Rechne(const Sparauftrag& auftrag, JsonSchreiber& ergeb
 
 }  // namespace
 
-constexpr Rechnungsart rechnungSparen = Auftragsart<felder, Rechne>("sparen", register_::daten);
+constexpr Rechnungsart rechnungSparen = Auftragsart<sparenfelder, RechneSparen>("sparen", register_::daten);
 
 }  // namespace zinfolio

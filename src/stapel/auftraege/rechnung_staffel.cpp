@@ -35,12 +35,13 @@ struct Kontoauftrag {
     Effektivwunsch Effektivmethode;
 };
 
-constexpr auto felder = Auftragsfelder(Pflichtfeld<&Kontoauftrag::Zahlungen>("Zahlungen"),
-                                       Pflichtfeld<&Kontoauftrag::Konditionen>("Konditionen"),
-                                       Pflichtfeld<&Kontoauftrag::Kontodatum>("Kontodatum"),
-                                       Pflichtfeld<&Kontoauftrag::Zinsverrechnungsart>("Zinsverrechnungsart"),
-                                       Pflichtfeld<&Kontoauftrag::Verzinsungsmethode>("Verzinsungsmethode"),
-                                       Kannfeld<&Kontoauftrag::Effektivmethode>("Effektivmethode"));
+constexpr auto staffelfelder =
+    Auftragsfelder(Pflichtfeld<&Kontoauftrag::Zahlungen>("Zahlungen"),
+                   Pflichtfeld<&Kontoauftrag::Konditionen>("Konditionen"),
+                   Pflichtfeld<&Kontoauftrag::Kontodatum>("Kontodatum"),
+                   Pflichtfeld<&Kontoauftrag::Zinsverrechnungsart>("Zinsverrechnungsart"),
+                   Pflichtfeld<&Kontoauftrag::Verzinsungsmethode>("Verzinsungsmethode"),
+                   Kannfeld<&Kontoauftrag::Effektivmethode>("Effektivmethode"));
 
 Konto KontoAus(Kontoauftrag&& auftrag) {
     Konto konto;
@@ -51,7 +52,7 @@ Konto KontoAus(Kontoauftrag&& auftrag) {
     return konto;
 }
 
-std::optional<Ablehnung> Rechne(Kontoauftrag&& auftrag, JsonSchreiber& ergebnis) {
+std::optional<Ablehnung> RechneStaffel(Kontoauftrag&& auftrag, JsonSchreiber& ergebnis) {
     const std::optional<Effektivmethode> methode = auftrag.Effektivmethode.methode;
     Staffelergebnis gerechnetes{.konto = KontoAus(std::move(auftrag))};
     if (auto ablehnung = StaffelRechnen(gerechnetes, methode)) return ablehnung;
@@ -61,6 +62,6 @@ std::optional<Ablehnung> Rechne(Kontoauftrag&& auftrag, JsonSchreiber& ergebnis)
 
 }  // namespace
 
-constexpr Rechnungsart rechnungStaffel = Auftragsart<felder, Rechne>("staffel");
+constexpr Rechnungsart rechnungStaffel = Auftragsart<staffelfelder, RechneStaffel>("staffel");
 
 }  // namespace zinfolio

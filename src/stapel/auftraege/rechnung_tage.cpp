@@ -11,16 +11,16 @@ struct Tage {
     zinfolio::Verzinsungsmethode Verzinsungsmethode{};
 };
 
-constexpr auto felder = Auftragsfelder(Pflichtfeld<&Tage::Von>("Von"), Pflichtfeld<&Tage::Bis>("Bis"),
-                                       Pflichtfeld<&Tage::Verzinsungsmethode>("Verzinsungsmethode"));
+constexpr auto tagefelder = Auftragsfelder(Pflichtfeld<&Tage::Von>("Von"), Pflichtfeld<&Tage::Bis>("Bis"),
+                                           Pflichtfeld<&Tage::Verzinsungsmethode>("Verzinsungsmethode"));
 
-std::optional<Ablehnung> Rechne(const Tage& tage, JsonSchreiber& ergebnis) {
+std::optional<Ablehnung> RechneTage(const Tage& tage, JsonSchreiber& ergebnis) {
     ergebnis.Feld("Zinstage", Zinstage(tage.Von, tage.Bis, tage.Verzinsungsmethode));
     return std::nullopt;
 }
 
 }  // namespace
 
-constexpr Rechnungsart rechnungTage = Auftragsart<felder, Rechne>("tage");
+constexpr Rechnungsart rechnungTage = Auftragsart<tagefelder, RechneTage>("tage");
 
 }  // namespace zinfolio

@@ -17,11 +17,11 @@ struct Planauftrag {
     Verzinsungsmethode Combo6{};
 };
 
-constexpr auto felder =
+constexpr auto tilgungsplanfelder =
     Auftragsfelder(Pflichtfeld<&Planauftrag::Zahlungen>("Zahlungen"),
                    Pflichtfeld<&Planauftrag::Combo4>("Combo4"), Pflichtfeld<&Planauftrag::Combo6>("Combo6"));
 
-std::optional<Ablehnung> Rechne(const Planauftrag& auftrag, JsonSchreiber& ergebnis) {
+std::optional<Ablehnung> RechneTilgungsplan(const Planauftrag& auftrag, JsonSchreiber& ergebnis) {
     return StillRechnen([&]() -> std::optional<Ablehnung> {
         std::vector<Reihensatz> reihe;
         ReiheSchreiben(auftrag.Zahlungen.saetze, reihe);
@@ -37,6 +37,7 @@ std::optional<Ablehnung> Rechne(const Planauftrag& auftrag, JsonSchreiber& ergeb
 
 }  // namespace
 
-constexpr Rechnungsart rechnungTilgungsplan = Auftragsart<felder, Rechne>("tilgungsplan");
+constexpr Rechnungsart rechnungTilgungsplan =
+    Auftragsart<tilgungsplanfelder, RechneTilgungsplan>("tilgungsplan");
 
 }  // namespace zinfolio

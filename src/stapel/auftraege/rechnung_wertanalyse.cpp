@@ -14,11 +14,11 @@ struct Wertauftrag {
     std::string BarwDatum;
 };
 
-constexpr auto felder = Auftragsfelder(
+constexpr auto wertanalysefelder = Auftragsfelder(
     Pflichtfeld<&Wertauftrag::Zahlungen>("Zahlungen"), Pflichtfeld<&Wertauftrag::Anzeigeart>("Anzeigeart"),
     Pflichtfeld<&Wertauftrag::Abzins2>("Abzins2"), Pflichtfeld<&Wertauftrag::BarwDatum>("BarwDatum"));
 
-std::optional<Ablehnung> Rechne(const Wertauftrag& auftrag, JsonSchreiber& ergebnis) {
+std::optional<Ablehnung> RechneWertanalyse(const Wertauftrag& auftrag, JsonSchreiber& ergebnis) {
     LaengePruefen(auftrag.Zahlungen);
     Werteingabe eingabe{auftrag.Anzeigeart, auftrag.Abzins2, auftrag.BarwDatum};
     Wertergebnis werte;
@@ -29,6 +29,6 @@ std::optional<Ablehnung> Rechne(const Wertauftrag& auftrag, JsonSchreiber& ergeb
 
 }  // namespace
 
-constexpr Rechnungsart rechnungWertanalyse = Auftragsart<felder, Rechne>("wertanalyse");
+constexpr Rechnungsart rechnungWertanalyse = Auftragsart<wertanalysefelder, RechneWertanalyse>("wertanalyse");
 
 }  // namespace zinfolio

@@ -9,16 +9,16 @@ struct Formatierung {
     std::string_view Muster;
 };
 
-constexpr auto felder =
+constexpr auto zahlformatfelder =
     Auftragsfelder(Pflichtfeld<&Formatierung::Wert>("Wert"), Pflichtfeld<&Formatierung::Muster>("Muster"));
 
-std::optional<Ablehnung> Rechne(const Formatierung& formatierung, JsonSchreiber& ergebnis) {
+std::optional<Ablehnung> RechneZahlformat(const Formatierung& formatierung, JsonSchreiber& ergebnis) {
     ergebnis.Feld("Text", Format(formatierung.Wert, Zahlmuster::Lesen(formatierung.Muster)));
     return std::nullopt;
 }
 
 }  // namespace
 
-constexpr Rechnungsart rechnungZahlformat = Auftragsart<felder, Rechne>("zahlformat");
+constexpr Rechnungsart rechnungZahlformat = Auftragsart<zahlformatfelder, RechneZahlformat>("zahlformat");
 
 }  // namespace zinfolio

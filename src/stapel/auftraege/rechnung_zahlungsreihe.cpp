@@ -9,7 +9,7 @@
 namespace zinfolio {
 namespace {
 
-constexpr auto felder = Auftragsfelder(
+constexpr auto zahlungsreihefelder = Auftragsfelder(
     Pflichtfeld<&Zahlungseingabe::Begdatum>("Begdatum"), Pflichtfeld<&Zahlungseingabe::Betrag>("Betrag"),
     Pflichtfeld<&Zahlungseingabe::Ratzahl>("Ratzahl"), Pflichtfeld<&Zahlungseingabe::Abstand>("Abstand"),
     Pflichtfeld<&Zahlungseingabe::Stufen>("Stufen"), Pflichtfeld<&Zahlungseingabe::Delta>("Delta"),
@@ -27,7 +27,7 @@ void ZahlungSchreiben(const Staffelsatz& zahlung, JsonSchreiber& ergebnis) {
     ergebnis.ObjektZu();
 }
 
-std::optional<Ablehnung> Rechne(Zahlungseingabe eingabe, JsonSchreiber& ergebnis) {
+std::optional<Ablehnung> RechneZahlungsreihe(Zahlungseingabe eingabe, JsonSchreiber& ergebnis) {
     // The label is kept up while the fields are typed, thus before the check fills the empty ones.
     const std::string letztesDatum = Datumrech(eingabe);
     if (auto ablehnung = ZahlungseingabePruefen(eingabe)) return ablehnung;
@@ -44,6 +44,7 @@ std::optional<Ablehnung> Rechne(Zahlungseingabe eingabe, JsonSchreiber& ergebnis
 
 }  // namespace
 
-constexpr Rechnungsart rechnungZahlungsreihe = Auftragsart<felder, Rechne>("zahlungsreihe");
+constexpr Rechnungsart rechnungZahlungsreihe =
+    Auftragsart<zahlungsreihefelder, RechneZahlungsreihe>("zahlungsreihe");
 
 }  // namespace zinfolio

@@ -13,12 +13,12 @@ struct Terminauftrag {
     zinfolio::Zinsverrechnungsart Zinsverrechnungsart{};
 };
 
-constexpr auto felder =
+constexpr auto zinsterminefelder =
     Auftragsfelder(Pflichtfeld<&Terminauftrag::Erstdatum>("Erstdatum"),
                    Pflichtfeld<&Terminauftrag::Kontodatum>("Kontodatum"),
                    Pflichtfeld<&Terminauftrag::Zinsverrechnungsart>("Zinsverrechnungsart"));
 
-std::optional<Ablehnung> Rechne(const Terminauftrag& auftrag, JsonSchreiber& ergebnis) {
+std::optional<Ablehnung> RechneZinstermine(const Terminauftrag& auftrag, JsonSchreiber& ergebnis) {
     std::vector<Datum> termine;
     Zinstermine(auftrag.Erstdatum, auftrag.Kontodatum, auftrag.Zinsverrechnungsart, termine);
     ergebnis.Festlegen();
@@ -34,6 +34,6 @@ std::optional<Ablehnung> Rechne(const Terminauftrag& auftrag, JsonSchreiber& erg
 
 }  // namespace
 
-constexpr Rechnungsart rechnungZinstermine = Auftragsart<felder, Rechne>("zinstermine");
+constexpr Rechnungsart rechnungZinstermine = Auftragsart<zinsterminefelder, RechneZinstermine>("zinstermine");
 
 }  // namespace zinfolio

@@ -13,7 +13,7 @@
 namespace zinfolio {
 namespace {
 
-constexpr const char* beispiel =
+constexpr const char* rechnebeispiel =
     "Beispiel:\n"
     "  zinfolio-cli rechne konto.json";
 
@@ -50,8 +50,8 @@ int Ausfuehren(const std::string& datei) {
     return Rechnen(datei, std::string_view(text.puffer).substr(0, text.laenge));
 }
 
-std::function<int()> Anbieten(CLI::App& zeile) {
-    zeile.footer(beispiel);
+std::function<int()> RechneAnbieten(CLI::App& zeile) {
+    zeile.footer(rechnebeispiel);
     const Option datei = zeile.add_option("DATEI")
                              ->description("Der Auftrag als JSON; - ist die Standardeingabe")
                              ->option_text(" ")
@@ -62,6 +62,6 @@ std::function<int()> Anbieten(CLI::App& zeile) {
 }  // namespace
 
 constexpr Befehl befehlRechne{"rechne", "Rechnet den Auftrag einer Datei und zeigt das Ergebnis eingerückt",
-                              Anbieten};
+                              RechneAnbieten};
 
 }  // namespace zinfolio

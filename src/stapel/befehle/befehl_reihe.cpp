@@ -28,10 +28,10 @@ namespace zinfolio {
 namespace {
 
 namespace fs = std::filesystem;
-using Ausgang = std::variant<Befehlsergebnis, Ablehnung>;
+using Reihenausgang = std::variant<Befehlsergebnis, Ablehnung>;
 using Zahlungen = std::vector<Staffelsatz>;
 
-constexpr const char* beispiele =
+constexpr const char* reihebeispiele =
     "Beispiele:\n"
     "  zinfolio-cli reihe reihe.RRR --effektiv isma\n"
     "  zinfolio-cli reihe reihe.RRR --ansicht barwert --zins 4,5 --datum 01.01.2024\n"
@@ -59,7 +59,7 @@ struct Reihenaufruf {
 };
 
 /// Makes one result of the payments in the order of their file.
-using Auswertung = Ausgang (*)(Zahlungen zahlungen, const Reihenaufruf& aufruf);
+using Auswertung = Reihenausgang (*)(Zahlungen zahlungen, const Reihenaufruf& aufruf);
 
 template <typename Wert>
 auto Geteilt(Wert&& wert) {
@@ -71,7 +71,7 @@ void Sortieren(Zahlungen& zahlungen) {
     SortiereZahlungen(zahlungen);
 }
 
-Ausgang Effektivzins(Zahlungen zahlungen, const Reihenaufruf& aufruf) {
+Reihenausgang Effektivzins(Zahlungen zahlungen, const Reihenaufruf& aufruf) {
     if (zahlungen.empty()) return OhneZahlungen(meldung::erstDieZahlungen);
     std::vector<Reihensatz> reihe;
     ReiheSchreiben(zahlungen, reihe);
@@ -104,7 +104,7 @@ std::string Aussagen(const Wertergebnis& werte) {
 }
 
 template <Wertart art>
-Ausgang Wertanalyse(Zahlungen zahlungen, const Reihenaufruf& aufruf) {
+Reihenausgang Wertanalyse(Zahlungen zahlungen, const Reihenaufruf& aufruf) {
     Sortieren(zahlungen);
     Werteingabe eingabe{art, aufruf.zins, aufruf.datum};
     Wertergebnis ergebnis;
@@ -132,7 +132,7 @@ Befehlsergebnis Zellenergebnis(Zellentabelle&& zellen, Tabelleninhalt (*bilden)(
             .bericht = [tabelle, bilden, berichten] { return berichten(bilden(*tabelle)); }};
 }
 
-Ausgang Sensitivitaet(Zahlungen zahlungen, const Reihenaufruf& aufruf) {
+Reihenausgang Sensitivitaet(Zahlungen zahlungen, const Reihenaufruf& aufruf) {
     Sortieren(zahlungen);
     Werteingabe analyse{aufruf.wertart, aufruf.zins, aufruf.datum};
     Wertergebnis werte;
@@ -153,7 +153,7 @@ Ausgang Sensitivitaet(Zahlungen zahlungen, const Reihenaufruf& aufruf) {
                           });
 }
 
-Ausgang Jahreswerte(Zahlungen zahlungen, const Reihenaufruf& aufruf) {
+Reihenausgang Jahreswerte(Zahlungen zahlungen, const Reihenaufruf& aufruf) {
     Sortieren(zahlungen);
     Werteingabe analyse{Wertart::barwert, aufruf.zins, aufruf.datum};
     Wertergebnis werte;
@@ -176,7 +176,7 @@ Tabelleninhalt Plantabelle(const Tilgungsplan& plan, Planansicht ansicht) {
 }
 
 template <Planansicht ansicht>
-Ausgang Plan(Zahlungen zahlungen, const Reihenaufruf& aufruf) {
+Reihenausgang Plan(Zahlungen zahlungen, const Reihenaufruf& aufruf) {
     Tilgungsplan ergebnis;
     auto ablehnung = StillRechnen([&]() -> std::optional<Ablehnung> {
         Sortieren(zahlungen);
@@ -279,7 +279,7 @@ Reihenoptionen::Reihenoptionen(CLI::App& zeile)
       verzinsung_(OptionAnbieten(zeile, "--verzinsung", "METHODE",
                                  "Zum Plan: " + Aufzaehlung(verzinsungen) + "; sonst 30/360")),
       ausgaben_(zeile) {
-    zeile.footer(beispiele);
+    zeile.footer(reihebeispiele);
 }
 
 void Reihenoptionen::EingabePruefen() const {
@@ -325,13 +325,13 @@ int Reihenoptionen::Ausfuehren() const {
     return ErgebnisAusgeben(aufruf.ausgaben, [&] { return auswerten(std::move(zahlungen), aufruf); });
 }
 
-std::function<int()> Anbieten(CLI::App& zeile) {
+std::function<int()> ReiheAnbieten(CLI::App& zeile) {
     return [optionen = Reihenoptionen(zeile)] { return optionen.Ausfuehren(); };
 }
 
 }  // namespace
 
 constexpr Befehl befehlReihe{
-    "reihe", "Rechnet eine gespeicherte Zahlungsreihe: Effektivzinssatz, Werte, Tilgungsplan", Anbieten};
+    "reihe", "Rechnet eine gespeicherte Zahlungsreihe: Effektivzinssatz, Werte, Tilgungsplan", ReiheAnbieten};
 
 }  // namespace zinfolio

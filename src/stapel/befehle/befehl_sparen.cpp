@@ -21,7 +21,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* beispiele =
+constexpr const char* sparenbeispiele =
     "Beispiele:\n"
     "  zinfolio-cli sparen 'VEWertneu 1' --form Form90000\n"
     "  zinfolio-cli sparen plan --form Form92000 --ansicht detail1 --pdf plan.pdf\n"
@@ -84,7 +84,7 @@ Sparoptionen::Sparoptionen(CLI::App& zeile)
           OptionAnbieten(zeile, "--effektiv", "METHODE",
                          "Der Effektivzinssatz nach " + Aufzaehlung(effektivwahl) + "; sonst wie im Plan")),
       ausgaben_(zeile) {
-    zeile.footer(beispiele);
+    zeile.footer(sparenbeispiele);
 }
 
 const Sparform& Sparoptionen::FormLesen() const {
@@ -182,7 +182,7 @@ int Ausfuehren(const Sparaufruf& aufruf) {
         aufruf.ausgaben, [&] { return Rechnen(std::move(plan), aufruf); }, register_::daten);
 }
 
-std::function<int()> Anbieten(CLI::App& zeile) {
+std::function<int()> SparenAnbieten(CLI::App& zeile) {
     return [optionen = Sparoptionen(zeile)] { return Ausfuehren(optionen.Lesen()); };
 }
 
@@ -190,6 +190,6 @@ std::function<int()> Anbieten(CLI::App& zeile) {
 
 constexpr Befehl befehlSparen{
     "sparen", "Rechnet einen gespeicherten Sparplan und zeigt die Staffel oder schreibt ihren Bericht",
-    Anbieten};
+    SparenAnbieten};
 
 }  // namespace zinfolio

@@ -24,7 +24,7 @@ constexpr std::array zinsverrechnungen{
     Wahl{"halbjahr", Zinsverrechnungsart::halbjahresende}, Wahl{"jahr", Zinsverrechnungsart::jahresende},
 };
 
-constexpr const char* beispiele =
+constexpr const char* staffelbeispiele =
     "Beispiele:\n"
     "  zinfolio-cli staffel konto.ZiS --ansicht detail1 --effektiv isma\n"
     "  zinfolio-cli staffel konto.ZiS --pdf konto.pdf\n"
@@ -84,7 +84,7 @@ Staffeloptionen::Staffeloptionen(CLI::App& zeile)
       effektiv_(OptionAnbieten(zeile, "--effektiv", "METHODE",
                                "Dazu der Effektivzinssatz nach " + Aufzaehlung(effektivwahl))),
       ausgaben_(zeile) {
-    zeile.footer(beispiele);
+    zeile.footer(staffelbeispiele);
 }
 
 void Staffeloptionen::EingabePruefen() const {
@@ -183,13 +183,14 @@ int Ausfuehren(const Staffelaufruf& aufruf) {
     return ErgebnisAusgeben(aufruf.ausgaben, [&] { return Rechnen(ergebnis, aufruf); });
 }
 
-std::function<int()> Anbieten(CLI::App& zeile) {
+std::function<int()> StaffelAnbieten(CLI::App& zeile) {
     return [optionen = Staffeloptionen(zeile)] { return Ausfuehren(optionen.Lesen()); };
 }
 
 }  // namespace
 
 constexpr Befehl befehlStaffel{
-    "staffel", "Rechnet ein gespeichertes Konto und zeigt die Staffel oder schreibt ihren Bericht", Anbieten};
+    "staffel", "Rechnet ein gespeichertes Konto und zeigt die Staffel oder schreibt ihren Bericht",
+    StaffelAnbieten};
 
 }  // namespace zinfolio

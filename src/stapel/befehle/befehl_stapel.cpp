@@ -18,7 +18,7 @@ namespace {
 
 constexpr unsigned hoechsteKerne = 256;
 
-constexpr const char* beispiel =
+constexpr const char* stapelbeispiel =
     "Beispiel:\n"
     "  zinfolio-cli stapel < auftraege.jsonl > ergebnisse.jsonl\n"
     "Ein Auftrag ist ein JSON-Objekt auf einer Zeile:\n"
@@ -74,8 +74,8 @@ int Ausfuehren(unsigned kerne) {
     return StapelRechnen(eingabe, AusgebenOderEnden, kerne) ? status::fertig : status::abgelehnt;
 }
 
-std::function<int()> Anbieten(CLI::App& zeile) {
-    zeile.footer(beispiel);
+std::function<int()> StapelAnbieten(CLI::App& zeile) {
+    zeile.footer(stapelbeispiel);
     const Option kerne = OptionAnbieten(zeile, "--kerne", "N",
                                         "Zahl der Rechenkerne, 1 bis " + std::to_string(hoechsteKerne) +
                                             "; sonst alle des Rechners. Das Ergebnis ist immer dasselbe");
@@ -84,6 +84,7 @@ std::function<int()> Anbieten(CLI::App& zeile) {
 
 }  // namespace
 
-constexpr Befehl befehlStapel{"stapel", "Rechnet Aufträge von der Standardeingabe, einen je Zeile", Anbieten};
+constexpr Befehl befehlStapel{"stapel", "Rechnet Aufträge von der Standardeingabe, einen je Zeile",
+                              StapelAnbieten};
 
 }  // namespace zinfolio
