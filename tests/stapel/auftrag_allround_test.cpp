@@ -7,7 +7,7 @@
 #include "rechnen.h"
 
 namespace zinfolio {
-namespace {
+namespace auftrag_allround_test {
 
 using testing::HasSubstr;
 
@@ -167,5 +167,5 @@ TEST(Tilgungsplanauftrag, EinFehlerEndetOhneWorte) {
         Abgelehnt("", "null", "null"));
 }
 
-}  // namespace
+}  // namespace auftrag_allround_test
 }  // namespace zinfolio

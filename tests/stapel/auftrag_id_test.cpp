@@ -4,7 +4,7 @@
 #include "stapel/json/jsonleser.h"
 
 namespace zinfolio {
-namespace {
+namespace auftrag_id_test {
 
 std::string MitId(std::string_view id) {
     return Ergebnis(
@@ -83,5 +83,5 @@ TEST(IdNacheinander, KeineBleibtVomAuftragDavor) {
     EXPECT_EQ(ergebnis, OhneErgebnis("null", R"(Das Feld \"rechnung\" fehlt.)"));
 }
 
-}  // namespace
+}  // namespace auftrag_id_test
 }  // namespace zinfolio

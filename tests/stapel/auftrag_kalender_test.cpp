@@ -4,7 +4,7 @@
 #include "rechnen.h"
 
 namespace zinfolio {
-namespace {
+namespace auftrag_kalender_test {
 
 struct Fall {
     std::string_view auftrag;
@@ -104,5 +104,5 @@ TEST(Kalenderauftraege, UeberlaufDerZinsenIstDieAllgemeineMeldung) {
         testing::StartsWith(R"({"id":null,"ok":false,"Meldung":"Bitte überprüfen Sie Ihre Angaben.)"));
 }
 
-}  // namespace
+}  // namespace auftrag_kalender_test
 }  // namespace zinfolio

@@ -4,7 +4,7 @@
 #include "rechnen.h"
 
 namespace zinfolio {
-namespace {
+namespace auftrag_konto_test {
 
 using testing::HasSubstr;
 
@@ -242,5 +242,5 @@ TEST(Zahlungsreihe, KeineZahlIstDieAllgemeineMeldung) {
         OhneErgebnis("7", allgemeineMeldung));
 }
 
-}  // namespace
+}  // namespace auftrag_konto_test
 }  // namespace zinfolio

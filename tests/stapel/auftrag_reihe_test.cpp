@@ -4,7 +4,7 @@
 #include "rechnen.h"
 
 namespace zinfolio {
-namespace {
+namespace auftrag_reihe_test {
 
 using testing::HasSubstr;
 using testing::Not;
@@ -113,5 +113,5 @@ TEST(Staffelauftrag, MitEffektivmethodeTraegtErDieRenditeDesKontos) {
     EXPECT_THAT(Ergebnis(auftrag + "}"), Not(HasSubstr("ezins")));
 }
 
-}  // namespace
+}  // namespace auftrag_reihe_test
 }  // namespace zinfolio

@@ -4,7 +4,7 @@
 #include "rechnen.h"
 
 namespace zinfolio {
-namespace {
+namespace auftrag_sparen_test {
 
 using testing::EndsWith;
 using testing::HasSubstr;
@@ -168,5 +168,5 @@ TEST(Sparauftrag, EinundvierzigZeilenSindZuViele) {
                 HasSubstr("Zinstabelle[40]"));
 }
 
-}  // namespace
+}  // namespace auftrag_sparen_test
 }  // namespace zinfolio

@@ -4,7 +4,7 @@
 #include "rechnen.h"
 
 namespace zinfolio {
-namespace {
+namespace auftrag_tabellen_test {
 
 using testing::EndsWith;
 using testing::HasSubstr;
@@ -144,5 +144,5 @@ TEST(Kurzauftrag, FormZahlweiseUndModusAusIhrenListen) {
               OhneErgebnis("null", R"(Das Feld \"Zahlungsmodus\" muss eine ganze Zahl von 1 bis 2 sein.)"));
 }
 
-}  // namespace
+}  // namespace auftrag_tabellen_test
 }  // namespace zinfolio

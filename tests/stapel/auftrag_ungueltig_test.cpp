@@ -3,7 +3,7 @@
 #include "rechnen.h"
 
 namespace zinfolio {
-namespace {
+namespace auftrag_ungueltig_test {
 
 /// A job that is none, and what is said about it. `id` is what could still be read of it.
 struct Fall {
@@ -212,5 +212,5 @@ TEST(UngueltigeAuftraege, JederTorsoUndJedesFalscheByteBekommtEineAntwort) {
     }
 }
 
-}  // namespace
+}  // namespace auftrag_ungueltig_test
 }  // namespace zinfolio

@@ -6,7 +6,7 @@
 #include <thread>
 
 namespace zinfolio {
-namespace {
+namespace fliessband_test {
 
 void Auflegen(Fliessband& band, std::string text) {
     Zeilenblock block{std::move(text), 0};
@@ -80,5 +80,5 @@ TEST(Fliessband, AbbruchLaesstAlleLos) {
     EXPECT_THROW(band.FehlerWerfen(), std::runtime_error);
 }
 
-}  // namespace
+}  // namespace fliessband_test
 }  // namespace zinfolio

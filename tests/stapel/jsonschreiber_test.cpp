@@ -5,7 +5,7 @@
 #include <stdexcept>
 
 namespace zinfolio {
-namespace {
+namespace jsonschreiber_test {
 
 std::string Text(std::string_view text) {
     std::string json;
@@ -73,5 +73,5 @@ TEST(JsonEinzug, ZeichenInTextenBleiben) {
     EXPECT_EQ(JsonEingezogen(R"(["a,b:{[\"]}\\"])"), "[\n  \"a,b:{[\\\"]}\\\\\"\n]");
 }
 
-}  // namespace
+}  // namespace jsonschreiber_test
 }  // namespace zinfolio

@@ -10,7 +10,7 @@
 #include <string>
 
 namespace zinfolio {
-namespace {
+namespace jsonzahl_test {
 
 std::string Geschrieben(double wert) {
     std::array<char, zahlbreite> puffer{};
@@ -100,5 +100,5 @@ TEST(JsonZahl, AnDenGrenzenDesSchnellenWegs) {
     }
 }
 
-}  // namespace
+}  // namespace jsonzahl_test
 }  // namespace zinfolio

@@ -11,7 +11,7 @@
 #include <thread>
 
 namespace zinfolio {
-namespace {
+namespace stapelverarbeitung_test {
 
 /// A text that comes in pieces of random size.
 Quelle Text(std::string text, unsigned saat = 1) {
@@ -200,5 +200,5 @@ TEST(Stapel, FehlerDerEingabeKommtDurchUndDieErgebnisseDavorSindDa) {
     }
 }
 
-}  // namespace
+}  // namespace stapelverarbeitung_test
 }  // namespace zinfolio

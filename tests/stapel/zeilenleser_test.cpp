@@ -8,7 +8,7 @@
 #include "stapel/json/jsonleser.h"
 
 namespace zinfolio {
-namespace {
+namespace zeilenleser_test {
 
 /// An input that comes in the pieces given.
 Quelle Haeppchen(std::vector<std::string> haeppchen) {
@@ -85,5 +85,5 @@ TEST(ZeileNehmen, GibtZeileFuerZeile) {
     EXPECT_TRUE(zeilen.empty());
 }
 
-}  // namespace
+}  // namespace zeilenleser_test
 }  // namespace zinfolio

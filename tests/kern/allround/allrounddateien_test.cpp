@@ -7,7 +7,7 @@
 #include "kern/dateien/testordner.h"
 
 namespace zinfolio {
-namespace {
+namespace allrounddateien_test {
 
 using testing::ElementsAre;
 
@@ -166,5 +166,5 @@ TEST_F(Allrounddateientest, LeererTextInDerDateiIstZehn) {
     EXPECT_EQ(dateien.VorgabezinsLesen(), "10");
 }
 
-}  // namespace
+}  // namespace allrounddateien_test
 }  // namespace zinfolio

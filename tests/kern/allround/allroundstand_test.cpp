@@ -5,7 +5,7 @@
 #include "kern/allround/zahlungen.h"
 
 namespace zinfolio {
-namespace {
+namespace allroundstand_test {
 
 Wertergebnis Analyse(const std::vector<Staffelsatz>& zahlungen, const std::string& zins) {
     Werteingabe eingabe{.Abzins2 = zins};
@@ -66,5 +66,5 @@ TEST(Allroundstand, OhneZinssatzBleibtDieTabelleDesLetzten) {
     EXPECT_EQ(Endwertzeilen(stand.GefundenerZins)->size(), 2U);
 }
 
-}  // namespace
+}  // namespace allroundstand_test
 }  // namespace zinfolio

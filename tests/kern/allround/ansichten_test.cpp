@@ -8,7 +8,7 @@
 #include "kern/allround/zahlungen.h"
 
 namespace zinfolio {
-namespace {
+namespace ansichten_test {
 
 using testing::ElementsAre;
 
@@ -163,5 +163,5 @@ TEST(Jahresbericht, HatDieKoepfeSeinesGitters) {
     EXPECT_EQ(bericht.tabelle.zelle(1, 4), "33,66");
 }
 
-}  // namespace
+}  // namespace ansichten_test
 }  // namespace zinfolio

@@ -6,7 +6,7 @@
 #include "kern/allround/zahlungen.h"
 
 namespace zinfolio {
-namespace {
+namespace diagramme_test {
 
 using testing::ElementsAre;
 
@@ -109,5 +109,5 @@ TEST(Plandiagramm, EineZeileWirdAbgelehnt) {
     EXPECT_EQ(std::get<Ablehnung>(Plandiagramm(tabelle, Planansicht::jahresweise)).Meldung, nurEine);
 }
 
-}  // namespace
+}  // namespace diagramme_test
 }  // namespace zinfolio

@@ -6,7 +6,7 @@
 #include "kern/grund/rechenfehler.h"
 
 namespace zinfolio {
-namespace {
+namespace jahreswerte_test {
 
 Zellentabelle Tabelle(const std::vector<Staffelsatz>& zahlungen, std::string zins, std::string datum) {
     Jahreswerteingabe eingabe{std::move(zins), std::move(datum)};
@@ -126,5 +126,5 @@ TEST(Jahreswerte, LeereReiheWirdAbgelehnt) {
               (Ablehnung{"Es müssen erst Zahlungen eingegeben werden.", "Begdatum", "Zahlungen"}));
 }
 
-}  // namespace
+}  // namespace jahreswerte_test
 }  // namespace zinfolio

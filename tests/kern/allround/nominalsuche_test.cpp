@@ -7,7 +7,7 @@
 #include "kern/grund/rechenfehler.h"
 
 namespace zinfolio {
-namespace {
+namespace nominalsuche_test {
 
 /// The rates at which the search asked for a balance.
 struct Mitschrift {
@@ -94,5 +94,5 @@ TEST(Nominalsuche, EinRingWirdNichtAbgelaufenUndEndetMitDemselbenSatz) {
     }
 }
 
-}  // namespace
+}  // namespace nominalsuche_test
 }  // namespace zinfolio

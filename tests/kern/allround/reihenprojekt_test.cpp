@@ -9,7 +9,7 @@
 #include "kern/dateien/testordner.h"
 
 namespace zinfolio {
-namespace {
+namespace reihenprojekt_test {
 
 using testing::ElementsAre;
 
@@ -92,5 +92,5 @@ TEST_F(Reihenprojekttest, EinNameAusDerEndungAlleinIstEinFehler) {
     EXPECT_THROW(Speichere(".RRR"), Dateifehler);
 }
 
-}  // namespace
+}  // namespace reihenprojekt_test
 }  // namespace zinfolio

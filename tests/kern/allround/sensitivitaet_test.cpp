@@ -6,7 +6,7 @@
 #include "kern/allround/zahlungen.h"
 
 namespace zinfolio {
-namespace {
+namespace sensitivitaet_test {
 
 Zellentabelle Tabelle(const std::vector<Staffelsatz>& zahlungen, Sensitivitaetseingabe eingabe) {
     Zellentabelle tabelle;
@@ -156,5 +156,5 @@ TEST(Sensitivitaet, LeereReiheWirdAbgelehnt) {
               (Ablehnung{"Es müssen erst Zahlungen eingegeben werden.", "Begdatum", "Zahlungen"}));
 }
 
-}  // namespace
+}  // namespace sensitivitaet_test
 }  // namespace zinfolio

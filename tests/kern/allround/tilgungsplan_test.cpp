@@ -13,7 +13,7 @@
 #include "kern/grund/rechenfehler.h"
 
 namespace zinfolio {
-namespace {
+namespace tilgungsplan_test {
 
 using enum Plantermine;
 
@@ -301,5 +301,5 @@ TEST(VeroeffentlichterPlan, AchtundzwanzigJahresraten) {
     EXPECT_NEAR(summe, 340337.14, 0.04);
 }
 
-}  // namespace
+}  // namespace tilgungsplan_test
 }  // namespace zinfolio

@@ -10,7 +10,7 @@
 #include "kern/grund/rechenfehler.h"
 
 namespace zinfolio {
-namespace {
+namespace wertanalyse_test {
 
 Wertergebnis Analyse(const std::vector<Staffelsatz>& zahlungen, Werteingabe eingabe) {
     Wertergebnis ergebnis;
@@ -260,5 +260,5 @@ TEST(WertAnalyse, LeereReiheWirdAbgelehntDerZinsIstDannSchonVorbelegt) {
     EXPECT_EQ(eingabe.Abzins2, "10");
 }
 
-}  // namespace
+}  // namespace wertanalyse_test
 }  // namespace zinfolio

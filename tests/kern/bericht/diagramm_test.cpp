@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 namespace zinfolio {
-namespace {
+namespace diagramm_test {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -121,5 +121,5 @@ TEST(BeschrifteteZeilen, UngleicheJahreUeberlappenNie) {
     }
 }
 
-}  // namespace
+}  // namespace diagramm_test
 }  // namespace zinfolio

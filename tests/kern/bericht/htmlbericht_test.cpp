@@ -5,7 +5,7 @@
 #include "kern/bericht/kleinerbericht.h"
 
 namespace zinfolio {
-namespace {
+namespace htmlbericht_test {
 
 using testing::EndsWith;
 using testing::HasSubstr;
@@ -131,5 +131,5 @@ TEST(HtmlBericht, EinSchriftnameBrichtNichtAusSeinerRegelAus) {
     EXPECT_THAT(html, Not(HasSubstr("<b>")));
 }
 
-}  // namespace
+}  // namespace htmlbericht_test
 }  // namespace zinfolio

@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 
 namespace zinfolio {
-namespace {
+namespace htmltext_test {
 
 std::string Html(std::string_view text) {
     std::string html = ">";
@@ -38,5 +38,5 @@ TEST(HtmlText, UnerlaubtesWirdDasErsatzzeichen) {
     EXPECT_EQ(Html("\xFFx\xC3"), ">\uFFFDx\uFFFD") << "no UTF-8";
 }
 
-}  // namespace
+}  // namespace htmltext_test
 }  // namespace zinfolio

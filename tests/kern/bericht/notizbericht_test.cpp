@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 
 namespace zinfolio {
-namespace {
+namespace notizbericht_test {
 
 using testing::ElementsAre;
 
@@ -37,5 +37,5 @@ TEST(Notizbericht, EineLeereNotizHatKeineZeile) {
     EXPECT_TRUE(NotizberichtBilden({}, "").kopfblock.empty());
 }
 
-}  // namespace
+}  // namespace notizbericht_test
 }  // namespace zinfolio

@@ -5,7 +5,7 @@
 #include "kern/bericht/kleinerbericht.h"
 
 namespace zinfolio {
-namespace {
+namespace rtfbericht_test {
 
 using testing::EndsWith;
 using testing::HasSubstr;
@@ -140,5 +140,5 @@ TEST(RtfBericht, HalbePunktgroessenUndWeitereSchriften) {
     EXPECT_THAT(rtf, HasSubstr("\\intbl\\qr\\f0\\fs15 01.01"));
 }
 
-}  // namespace
+}  // namespace rtfbericht_test
 }  // namespace zinfolio

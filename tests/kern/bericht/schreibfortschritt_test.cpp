@@ -9,7 +9,7 @@
 #include "kern/bericht/rtfbericht.h"
 
 namespace zinfolio {
-namespace {
+namespace schreibfortschritt_test {
 
 using testing::ElementsAre;
 using testing::Pair;
@@ -99,5 +99,5 @@ TEST_P(Berichtsschreiber, EinFehlerDerSenkeKommtDurch) {
 INSTANTIATE_TEST_SUITE_P(Alle, Berichtsschreiber,
                          testing::Values(&RtfBerichtSchreiben, &HtmlBerichtSchreiben));
 
-}  // namespace
+}  // namespace schreibfortschritt_test
 }  // namespace zinfolio

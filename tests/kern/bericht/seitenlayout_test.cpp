@@ -8,7 +8,7 @@
 #include "kern/bericht/spaltenformat.h"
 
 namespace zinfolio {
-namespace {
+namespace seitenlayout_test {
 
 using testing::ElementsAre;
 
@@ -281,5 +281,5 @@ TEST(Detailansicht3, FuelltDieSeiteGenau) {
     EXPECT_TRUE(std::is_sorted(layout.kanten.begin(), layout.kanten.end()));
 }
 
-}  // namespace
+}  // namespace seitenlayout_test
 }  // namespace zinfolio

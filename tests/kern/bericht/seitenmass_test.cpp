@@ -5,7 +5,7 @@
 #include "kern/bericht/spaltenformat.h"
 
 namespace zinfolio {
-namespace {
+namespace seitenmass_test {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -50,5 +50,5 @@ TEST(Spaltenkanten, SpaltenOhneBreiteBleibenOhne) {
     EXPECT_THAT(Spaltenkanten(bericht), ElementsAre(0, 0));
 }
 
-}  // namespace
+}  // namespace seitenmass_test
 }  // namespace zinfolio

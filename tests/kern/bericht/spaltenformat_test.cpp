@@ -4,7 +4,7 @@
 #include <stdexcept>
 
 namespace zinfolio {
-namespace {
+namespace spaltenformat_test {
 
 using testing::ElementsAre;
 
@@ -34,5 +34,5 @@ TEST(Spaltenformat, OhneBreiteIstEsKeineSpalte) {
     EXPECT_THROW((void)SpaltenformatLesen(""), std::invalid_argument);
 }
 
-}  // namespace
+}  // namespace spaltenformat_test
 }  // namespace zinfolio

@@ -7,7 +7,7 @@
 #include "kern/dates/zahlformat.h"
 
 namespace zinfolio {
-namespace {
+namespace tabelle_test {
 
 using testing::ElementsAre;
 
@@ -91,5 +91,5 @@ TEST(BerichtstabelleBilden, FormatUndSpaltenSindGleichViele) {
     EXPECT_THROW((void)BerichtstabelleBilden(Tabelle({}), "^1.0in|^1.0in|^1.0in", 8), std::invalid_argument);
 }
 
-}  // namespace
+}  // namespace tabelle_test
 }  // namespace zinfolio

@@ -6,7 +6,7 @@
 #include "kern/dateien/testordner.h"
 
 namespace zinfolio {
-namespace {
+namespace textbericht_test {
 
 class TextberichtTest : public testing::Test {
   protected:
@@ -49,5 +49,5 @@ TEST_F(TextberichtTest, OrdnerMitDemNamenDerDateiIstEinDateifehler) {
     EXPECT_THROW(static_cast<void>(Gelesen()), Dateifehler);
 }
 
-}  // namespace
+}  // namespace textbericht_test
 }  // namespace zinfolio

@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 
 namespace zinfolio {
-namespace {
+namespace textumbruch_test {
 
 /// A font in which each character is 100 twips wide, and a blank 50.
 Textmass Mass() {
@@ -65,5 +65,5 @@ INSTANTIATE_TEST_SUITE_P(LangeWoerter, TextInZeilen,
                                          Umbruchfall{"ab", 50, {"a", "b"}}, Umbruchfall{"ab", 0, {"a", "b"}},
                                          Umbruchfall{"a\xff\xfe", 200, {"a\xff", "\xfe"}}));
 
-}  // namespace
+}  // namespace textumbruch_test
 }  // namespace zinfolio

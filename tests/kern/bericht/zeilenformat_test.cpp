@@ -6,7 +6,7 @@
 #include "kern/dates/zahl.h"
 
 namespace zinfolio {
-namespace {
+namespace zeilenformat_test {
 
 /// A value by itself, without a label and appended directly.
 std::string Wert(std::string_view wert, std::int16_t zahlformat) {
@@ -114,5 +114,5 @@ TEST(Zeilenformat, EineLeereBezeichnungSindBlanks) {
     EXPECT_EQ(Zeilenformat({.Spalte1 = 4, .Spalte2 = 3, .Wert = "b", .Ausrichtung = 2}), "      b");
 }
 
-}  // namespace
+}  // namespace zeilenformat_test
 }  // namespace zinfolio

@@ -12,7 +12,7 @@
 #include "kern/dateien/testordner.h"
 
 namespace zinfolio {
-namespace {
+namespace arbeitsordner_test {
 
 namespace fs = std::filesystem;
 
@@ -134,5 +134,5 @@ TEST(LoescheDatei, SchweigtBeiJedemFehler) {
     EXPECT_THAT(ordner.Namen(), testing::ElementsAre("Ordner"));
 }
 
-}  // namespace
+}  // namespace arbeitsordner_test
 }  // namespace zinfolio

@@ -15,7 +15,7 @@
 #include "kern/dateien/testordner.h"
 
 namespace zinfolio {
-namespace {
+namespace atomar_test {
 
 namespace fs = std::filesystem;
 using testing::ElementsAre;
@@ -208,5 +208,5 @@ TEST(AtomarSchreiben, LaengsterMoeglicherNameGeht) {
     EXPECT_THAT(ordner.Namen(), ElementsAre(name));
 }
 
-}  // namespace
+}  // namespace atomar_test
 }  // namespace zinfolio

@@ -8,7 +8,7 @@
 #include <vector>
 
 namespace zinfolio {
-namespace {
+namespace csvlesen_test {
 
 using namespace std::string_literals;
 using testing::IsEmpty;
@@ -148,5 +148,5 @@ TEST(CsvLesen, JederAnfangEinesTextesIstEinTextOderEinFehlerSeinerLetztenZeilen)
     EXPECT_THAT(Gelesen(text), testing::ElementsAre("1: a|ü\"\r\n;|c", "3: d||"));
 }
 
-}  // namespace
+}  // namespace csvlesen_test
 }  // namespace zinfolio

@@ -6,7 +6,7 @@
 #include <system_error>
 
 namespace zinfolio {
-namespace {
+namespace dateifehler_test {
 
 TEST(Dateifehler, NenntDateiUndGrund) {
     EXPECT_STREQ(Dateifehler({"/o/rate"}, "Kaputt.").what(), "Datei \"/o/rate\": Kaputt.");
@@ -45,5 +45,5 @@ TEST(Systemgrund, UnbekannterFehlerHatSeineNummer) {
     EXPECT_EQ(Systemgrund(4711), "Das System meldet den Fehler 4711.");
 }
 
-}  // namespace
+}  // namespace dateifehler_test
 }  // namespace zinfolio

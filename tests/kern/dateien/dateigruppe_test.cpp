@@ -13,7 +13,7 @@
 #include "kern/dateien/testordner.h"
 
 namespace zinfolio {
-namespace {
+namespace dateigruppe_test {
 
 namespace fs = std::filesystem;
 using testing::ElementsAre;
@@ -268,5 +268,5 @@ TEST(Sperre, OhneOrdnerIstSieGescheitertMitGrund) {
     EXPECT_EQ(sperre.Fehlernummer(), ENOENT);
 }
 
-}  // namespace
+}  // namespace dateigruppe_test
 }  // namespace zinfolio

@@ -4,7 +4,7 @@
 #include <type_traits>
 
 namespace zinfolio {
-namespace {
+namespace festtext_test {
 
 using namespace std::string_view_literals;
 
@@ -51,5 +51,5 @@ TEST(Festtext, GleichIstBytegleich) {
     EXPECT_NE(Festtext<4>::AusWindows1252("ab"), Festtext<4>::AusWindows1252("Ab"));
 }
 
-}  // namespace
+}  // namespace festtext_test
 }  // namespace zinfolio

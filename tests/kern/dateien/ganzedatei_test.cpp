@@ -12,7 +12,7 @@
 #include "kern/dateien/testordner.h"
 
 namespace zinfolio {
-namespace {
+namespace ganzedatei_test {
 
 using testing::IsEmpty;
 using testing::ThrowsMessage;
@@ -99,5 +99,5 @@ TEST(LesbarkeitPruefen, SchweigtZuEinerDateiUndNenntDieFehlende) {
     EXPECT_THAT(ordner.Namen(), testing::ElementsAre("a"));
 }
 
-}  // namespace
+}  // namespace ganzedatei_test
 }  // namespace zinfolio

@@ -9,7 +9,7 @@
 #include "kern/dateien/probesatz.h"
 
 namespace zinfolio {
-namespace {
+namespace satzbytes_test {
 
 using Bytes = std::array<std::byte, Probesatz::Satzlaenge>;
 
@@ -85,5 +85,5 @@ TEST(Satzbytes, RestZaehltWasNochKommt) {
     EXPECT_EQ(leser.Rest(), 1U);
 }
 
-}  // namespace
+}  // namespace satzbytes_test
 }  // namespace zinfolio

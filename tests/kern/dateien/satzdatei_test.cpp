@@ -10,7 +10,7 @@
 #include "kern/dateien/testordner.h"
 
 namespace zinfolio {
-namespace {
+namespace satzdatei_test {
 
 using testing::AllOf;
 using testing::ElementsAre;
@@ -175,5 +175,5 @@ TEST_F(SatzdateiTest, SchreibfehlerDerPlatteLaesstDieAlteDateiStehen) {
     }
 }
 
-}  // namespace
+}  // namespace satzdatei_test
 }  // namespace zinfolio

@@ -8,7 +8,7 @@
 #include "kern/dateien/hex.h"
 
 namespace zinfolio {
-namespace {
+namespace selbstwert_test {
 
 template <std::size_t N>
 std::string Geschrieben(const Selbstwert& wert) {
@@ -150,5 +150,5 @@ TEST(SelbstwertLesen, ZufallsbytesSindWertOderFehler) {
     EXPECT_GT(fehler, 1000);
 }
 
-}  // namespace
+}  // namespace selbstwert_test
 }  // namespace zinfolio

@@ -6,7 +6,7 @@
 #include "kern/dateien/testordner.h"
 
 namespace zinfolio {
-namespace {
+namespace selbstwertaufbau_test {
 
 using namespace std::string_literals;
 using testing::AllOf;
@@ -40,14 +40,16 @@ bool operator==(const Probeplan& a, const Probeplan& b) {
            a.bereich.bis == b.bereich.bis;
 }
 
+constexpr auto bereichsende = [](auto& plan) -> auto& {
+    return plan.bereich.bis;
+};
+
 constexpr std::array planzeilen{
-    Selbstfeld<&Probeplan::betrag>(1), Selbstfeld<&Probeplan::jahre>(2), Selbstfeld<&Probeplan::vorschuss>(3),
-    Selbstfeld<&Probeplan::rhythmus>(5, {.eintraege = 3, .sonst = 1}), Selbstfeld<&Probeplan::notiz>(6),
-    Selbstfeld<&Probeplan::vorgabe>(7), Selbstfeld<&Probeplan::daten>(8),
-    Selbstfeld < [](auto& plan) -> auto& {return plan.bereich.bis;
-}  // namespace
-, Probeplan > (11, {.sonst = "%"}),
-};  // namespace zinfolio
+    Selbstfeld<&Probeplan::betrag>(1),    Selbstfeld<&Probeplan::jahre>(2),
+    Selbstfeld<&Probeplan::vorschuss>(3), Selbstfeld<&Probeplan::rhythmus>(5, {.eintraege = 3, .sonst = 1}),
+    Selbstfeld<&Probeplan::notiz>(6),     Selbstfeld<&Probeplan::vorgabe>(7),
+    Selbstfeld<&Probeplan::daten>(8),     Selbstfeld<bereichsende, Probeplan>(11, {.sonst = "%"}),
+};
 constexpr Selbstwertaufbau<Probeplan> plandatei{8, planzeilen};
 
 /// A record of 8 bytes.
@@ -205,5 +207,5 @@ TEST_F(SelbstwertaufbauTest, LeeresVerzeichnisHatLeereNamenUndDenErstenPlan) {
     EXPECT_THAT(verzeichnisdatei.Lesen(datei).namen, Each(""));
 }
 
-}  // namespace
+}  // namespace selbstwertaufbau_test
 }  // namespace zinfolio

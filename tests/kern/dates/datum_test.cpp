@@ -7,7 +7,7 @@
 #include "kern/dates/datumsliteral.h"
 
 namespace zinfolio {
-namespace {
+namespace datum_test {
 
 template <class A, class B>
 concept Addierbar = requires(A a, B b) {
@@ -147,5 +147,5 @@ TEST(Monatslaenge, ZaehltDieTageJedesMonats) {
     EXPECT_EQ(Monatslaenge(2100, 2), 28);
 }
 
-}  // namespace
+}  // namespace datum_test
 }  // namespace zinfolio

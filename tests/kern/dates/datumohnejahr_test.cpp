@@ -8,7 +8,7 @@
 #include "kern/dates/datumsliteral.h"
 
 namespace zinfolio {
-namespace {
+namespace datumohnejahr_test {
 
 constexpr Datum heute = "24.03.2011"_datum;
 
@@ -76,5 +76,5 @@ INSTANTIATE_TEST_SUITE_P(FalscheForm, DatumOhneJahrWeistAb,
                                          // Already as long as asked for, so the month keeps its one digit.
                                          EingabeOhneJahr{5, "1.2."}));
 
-}  // namespace
+}  // namespace datumohnejahr_test
 }  // namespace zinfolio

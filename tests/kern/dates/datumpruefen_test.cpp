@@ -7,7 +7,7 @@
 #include "kern/dates/datumsliteral.h"
 
 namespace zinfolio {
-namespace {
+namespace datumpruefen_test {
 
 constexpr Datum heute = "24.03.2011"_datum;
 
@@ -133,5 +133,5 @@ TEST(DatumPruefen, ZehnIstDieUeblicheLaenge) {
     EXPECT_EQ(DatumPruefen("1.2", heute, 10).feld, "24.03.2011");
 }
 
-}  // namespace
+}  // namespace datumpruefen_test
 }  // namespace zinfolio

@@ -7,7 +7,7 @@
 #include "kern/dates/textteile.h"
 
 namespace zinfolio {
-namespace {
+namespace datumstext_test {
 
 TEST(DatumAusTeilen, ErgaenztFuehrendeNullUndJahrtausend) {
     EXPECT_EQ(DatumAusTeilen("01", "02", "2007"), "01.02.2007");
@@ -109,5 +109,5 @@ TEST(Textteile, ZaehltZeichenNichtBytes) {
     EXPECT_EQ(Zeichenzahl("\xF0\x9F\x98\x80"), 1U);
 }
 
-}  // namespace
+}  // namespace datumstext_test
 }  // namespace zinfolio

@@ -5,7 +5,7 @@
 #include <string>
 
 namespace zinfolio {
-namespace {
+namespace datumtippen_test {
 
 constexpr int rueck = 8;
 
@@ -68,5 +68,5 @@ INSTANTIATE_TEST_SUITE_P(JahrBeginntNichtMitNull, DatumTippenTest,
                                          Tippfall{"31.12.0", rueck, "31.12."},
                                          Tippfall{"31.12.9", '9', "31.12.9"}));
 
-}  // namespace
+}  // namespace datumtippen_test
 }  // namespace zinfolio

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 namespace zinfolio {
-namespace {
+namespace einfuegetext_test {
 
 using enum Tastenfilter;
 
@@ -49,5 +49,5 @@ TEST(Einfuegetext, FreierTextBleibtWieErIst) {
     EXPECT_EQ(Ins(enter, " 1,234.56 €"), " 1,234.56 €");
 }
 
-}  // namespace
+}  // namespace einfuegetext_test
 }  // namespace zinfolio

@@ -5,7 +5,7 @@
 #include "kern/dates/zahl.h"
 
 namespace zinfolio {
-namespace {
+namespace feldtext_test {
 
 TEST(Feldtext, KleineZahlenStehenOhneExponent) {
     EXPECT_EQ(Feldtext("5E-05"), "0,00005");
@@ -30,5 +30,5 @@ TEST(Feldtext, WasWirZeigenLesenWir) {
     EXPECT_EQ(Feldtext(Zahltext(0.00002F)), "0,00002");
 }
 
-}  // namespace
+}  // namespace feldtext_test
 }  // namespace zinfolio

@@ -4,7 +4,7 @@
 #include <ostream>
 
 namespace zinfolio {
-namespace {
+namespace fremdzahl_test {
 
 struct Fremdfall {
     std::string text;
@@ -69,5 +69,5 @@ TEST(Fremdzahl, EinGenanntesDezimalzeichenGiltAllein) {
     EXPECT_EQ(Fremdzahl("1,50", Dezimalzeichen::punkt), std::nullopt);
 }
 
-}  // namespace
+}  // namespace fremdzahl_test
 }  // namespace zinfolio

@@ -9,7 +9,7 @@
 #include "kern/dates/tage30.h"
 
 namespace zinfolio {
-namespace {
+namespace kalender_test {
 
 // 9900 years of 365 days, 2475 years divisible by 4, less 99 full centuries, plus 24 divisible by 400.
 constexpr int tageDesKalenders = 9900 * 365 + 2475 - 99 + 24;
@@ -118,5 +118,5 @@ TEST(Kalender, TageszahlZaehltVomErstenMaerzDesJahresNull) {
     EXPECT_EQ("31.12.9999"_datum.Tageszahl(), 25 * 146097 - (31 + 29) - 1);
 }
 
-}  // namespace
+}  // namespace kalender_test
 }  // namespace zinfolio

@@ -7,7 +7,7 @@
 #include "kern/dates/datumsliteral.h"
 
 namespace zinfolio {
-namespace {
+namespace kalenderaddition_test {
 
 struct Schritt {
     std::string von;
@@ -149,5 +149,5 @@ TEST(Monatsletzter, ImDezember9999FuehrtDerWegAusDemKalender) {
     EXPECT_THROW(static_cast<void>(Monatsletzter("31.12.9999"_datum)), Datumsfehler);
 }
 
-}  // namespace
+}  // namespace kalenderaddition_test
 }  // namespace zinfolio

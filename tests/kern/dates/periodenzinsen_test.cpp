@@ -8,7 +8,7 @@
 #include "kern/dates/datumsliteral.h"
 
 namespace zinfolio {
-namespace {
+namespace periodenzinsen_test {
 
 using enum Verzinsungsmethode;
 
@@ -140,5 +140,5 @@ INSTANTIATE_TEST_SUITE_P(
                     // 351 days on to 31.12.2008, 382 back from there.
                     Periode{"15.01.2008", "15.12.2007", englisch, 1e6, 100, -31, 351e6 / 366 - 382e6 / 365}));
 
-}  // namespace
+}  // namespace periodenzinsen_test
 }  // namespace zinfolio

@@ -8,7 +8,7 @@
 #include "kern/dates/periodenzinsen.h"
 
 namespace zinfolio {
-namespace {
+namespace periodenzinsenregeln_test {
 
 using enum Verzinsungsmethode;
 constexpr Verzinsungsmethode alleMethoden[] = {deutsch, englisch, franzoesisch, dreissig365, kalender365};
@@ -124,5 +124,5 @@ TEST(Verzinsungsmethode, HatTexteTageszaehlungUndJahreslaengeInDieserReihenfolge
     EXPECT_EQ(FesteJahreslaenge(kalender365), 365);
 }
 
-}  // namespace
+}  // namespace periodenzinsenregeln_test
 }  // namespace zinfolio

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 namespace zinfolio {
-namespace {
+namespace rundung_test {
 
 TEST(RundeKaufmaennisch, RundetAufCent) {
     EXPECT_EQ(RundeKaufmaennisch(0.0, 2), 0.0);
@@ -70,5 +70,5 @@ TEST(RundeKaufmaennisch, GerundetesBleibtStehen) {
     }
 }
 
-}  // namespace
+}  // namespace rundung_test
 }  // namespace zinfolio

@@ -10,7 +10,7 @@
 #include "kern/dates/datumsliteral.h"
 
 namespace zinfolio {
-namespace {
+namespace tage30_test {
 
 static_assert(Tage30("31.01.2007"_datum, "28.02.2007"_datum) == 30);
 static_assert(Tage30("28.02.2007"_datum, "01.03.2007"_datum) == 1);
@@ -125,5 +125,5 @@ TEST(Tage30, PrueftBeideTexte) {
     }
 }
 
-}  // namespace
+}  // namespace tage30_test
 }  // namespace zinfolio

@@ -12,7 +12,7 @@ static void PrintTo(const Tastenantwort& antwort, std::ostream* strom) {
            << antwort.naechstesFeld << ", ersteTaste " << antwort.ersteTaste << "}";
 }
 
-namespace {
+namespace tastenfilter_test {
 
 constexpr int enter = 13;
 constexpr int rueck = 8;
@@ -210,5 +210,5 @@ TEST(TasteFiltern, WaehltDenFilterDesFeldes) {
     }
 }
 
-}  // namespace
+}  // namespace tastenfilter_test
 }  // namespace zinfolio

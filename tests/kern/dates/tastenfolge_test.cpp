@@ -9,7 +9,7 @@
 #include "kern/dates/tastenfilter.h"
 
 namespace zinfolio {
-namespace {
+namespace tastenfolge_test {
 
 /// An entry field that has just gained the focus: its old text is selected, and the first key replaces it.
 class Feld {
@@ -169,5 +169,5 @@ INSTANTIATE_TEST_SUITE_P(
                     Folge{"", "3112\b\b", "31."}, Folge{"", "3112\b\b\b", "3"},
                     Folge{"", "3112\b\b\b\b", ""}));
 
-}  // namespace
+}  // namespace tastenfolge_test
 }  // namespace zinfolio

@@ -7,7 +7,7 @@
 #include <string>
 
 namespace zinfolio {
-namespace {
+namespace zahl_test {
 
 struct Lesung {
     std::string text;
@@ -150,5 +150,5 @@ TEST(Ganzzahl16, UeberlaufIstEinFehler) {
     EXPECT_THROW(static_cast<void>(Ganzzahl16(std::numeric_limits<double>::quiet_NaN())), Zahlfehler);
 }
 
-}  // namespace
+}  // namespace zahl_test
 }  // namespace zinfolio

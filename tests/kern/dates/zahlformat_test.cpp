@@ -8,7 +8,7 @@
 #include "kern/dates/zahl.h"
 
 namespace zinfolio {
-namespace {
+namespace zahlformat_test {
 
 static_assert(Zahlmuster::Lesen("###,#0.00") == Zahlmuster{true, 1, 2});
 static_assert(Zahlmuster::Lesen("###,##.00") == Zahlmuster{true, 0, 2});
@@ -149,5 +149,5 @@ TEST(Format, VonTextOhneZahlIstEinFehler) {
     }
 }
 
-}  // namespace
+}  // namespace zahlformat_test
 }  // namespace zinfolio

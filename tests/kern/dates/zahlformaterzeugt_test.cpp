@@ -10,7 +10,7 @@
 #include "kern/dates/zahlformat.h"
 
 namespace zinfolio {
-namespace {
+namespace zahlformaterzeugt_test {
 
 constexpr int stellen = 5;                  // decimals of a generated number
 constexpr std::int64_t einheiten = 100000;  // 10^stellen
@@ -94,5 +94,5 @@ TEST(FormatErzeugt, ZufaelligeZahlenAllerGroessen) {
     }
 }
 
-}  // namespace
+}  // namespace zahlformaterzeugt_test
 }  // namespace zinfolio

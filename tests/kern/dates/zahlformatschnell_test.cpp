@@ -12,7 +12,7 @@
 #include "kern/dates/zahlformat.h"
 
 namespace zinfolio {
-namespace {
+namespace zahlformatschnell_test {
 
 /// |wert| with 15 significant digits as plain digits, and the place of the point in them.
 std::string Ziffern15(double betrag, int& punkt) {
@@ -131,5 +131,5 @@ TEST(ZahltextKurzweg, UmDieZehnerpotenzenWieInC) {
     }
 }
 
-}  // namespace
+}  // namespace zahlformatschnell_test
 }  // namespace zinfolio

@@ -11,7 +11,7 @@
 #include "kern/dates/zahl.h"
 
 namespace zinfolio {
-namespace {
+namespace zahltext_test {
 
 TEST(Zahltext, GanzeZahlHatKeinKomma) {
     EXPECT_EQ(Zahltext(5.0), "5");
@@ -100,5 +100,5 @@ TEST(Zahltext, StimmtMitCAnDenGrenzenUeberein) {
     }
 }
 
-}  // namespace
+}  // namespace zahltext_test
 }  // namespace zinfolio

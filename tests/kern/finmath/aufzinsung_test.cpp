@@ -8,7 +8,7 @@
 #include "kern/finmath/reihen.h"
 
 namespace zinfolio {
-namespace {
+namespace aufzinsung_test {
 
 struct Exponentfall {
     Effektivmethode methode;
@@ -186,5 +186,5 @@ TEST(JahrestagswegFinden, DerSchalttagBrauchtEinSchaltjahrAmAnfang) {
         static_cast<void>(JahrestagswegFinden("01.01.2004"_datum, "01.01.2009"_datum, "29.02.2008"_datum)));
 }
 
-}  // namespace
+}  // namespace aufzinsung_test
 }  // namespace zinfolio

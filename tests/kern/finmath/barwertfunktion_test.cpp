@@ -11,7 +11,7 @@
 #include "kern/finmath/reihen.h"
 
 namespace zinfolio {
-namespace {
+namespace barwertfunktion_test {
 
 TEST(Barwertfunktion, NachbarnAmSelbenTagTeilenEinePotenz) {
     const auto reihe =
@@ -89,5 +89,5 @@ TEST(Reihensuche, MethodenZweiUndVierStimmenAufGanzenJahrenUeberein) {
     EXPECT_GT(gefunden, 200);
 }
 
-}  // namespace
+}  // namespace barwertfunktion_test
 }  // namespace zinfolio

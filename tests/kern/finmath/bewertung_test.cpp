@@ -9,7 +9,7 @@
 #include "kern/finmath/reihen.h"
 
 namespace zinfolio {
-namespace {
+namespace bewertung_test {
 
 using testing::DoubleNear;
 using testing::ElementsAre;
@@ -244,5 +244,5 @@ TEST(Faktor, HatVierByteDerWertDieVolleGenauigkeit) {
     EXPECT_GT(std::abs(tabelle[0].Faktor * 1000000.0 - 1033000), 1e-3);
 }
 
-}  // namespace
+}  // namespace bewertung_test
 }  // namespace zinfolio

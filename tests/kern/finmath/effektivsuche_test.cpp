@@ -11,7 +11,7 @@
 #include "kern/grund/rechenfehler.h"
 
 namespace zinfolio {
-namespace {
+namespace effektivsuche_test {
 
 using testing::DoubleNear;
 using testing::SizeIs;
@@ -170,5 +170,5 @@ TEST(EffektivzinsSuchen, UnterEinemHunderttausendstelIstSchluss) {
     EXPECT_EQ(genau.Spielen().Schritte, 2);
 }
 
-}  // namespace
+}  // namespace effektivsuche_test
 }  // namespace zinfolio

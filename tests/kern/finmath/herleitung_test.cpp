@@ -7,7 +7,7 @@
 #include "kern/finmath/reihen.h"
 
 namespace zinfolio {
-namespace {
+namespace herleitung_test {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -95,5 +95,5 @@ TEST(Effektivmethoden, HabenIhreListentexte) {
     EXPECT_EQ(static_cast<int>(Effektivmethode::pangv2000), 4);
 }
 
-}  // namespace
+}  // namespace herleitung_test
 }  // namespace zinfolio

@@ -6,7 +6,7 @@
 #include "kern/grund/rechenfehler.h"
 
 namespace zinfolio {
-namespace {
+namespace ratensparen_test {
 
 constexpr std::int16_t sofort = zahlungsmodus::sofort;
 constexpr std::int16_t danach = zahlungsmodus::nachIntervall;
@@ -227,5 +227,5 @@ TEST(RatensparenRendite, UnerreichbaresZielScheitert) {
     EXPECT_THROW(MitRendite({0, 200, 0, 0, 12, 1000, sofort, -1}), Rechenfehler);
 }
 
-}  // namespace
+}  // namespace ratensparen_test
 }  // namespace zinfolio

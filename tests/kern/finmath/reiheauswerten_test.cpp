@@ -8,7 +8,7 @@
 #include "kern/finmath/reihen.h"
 
 namespace zinfolio {
-namespace {
+namespace reiheauswerten_test {
 
 using testing::DoubleNear;
 using testing::Optional;
@@ -165,5 +165,5 @@ TEST(Effektivzins, EineReiheRueckwaertsWirdGenommenWieSieSteht) {
         EXPECT_EQ(ReiheAuswerten(reihe, methode).Effektivzins, "10,00000");
 }
 
-}  // namespace
+}  // namespace reiheauswerten_test
 }  // namespace zinfolio

@@ -11,7 +11,7 @@
 #include "kern/dates/datumsliteral.h"
 
 namespace zinfolio {
-namespace {
+namespace reihensatz_test {
 
 template <Satz T>
 std::string SatzHex(const T& satz) {
@@ -77,5 +77,5 @@ TEST(DatumVonReihensatz, LiestDieDreiZahlenUndNichtDenText) {
     EXPECT_THROW(static_cast<void>(DatumVon(Reihensatz())), Datumsfehler);
 }
 
-}  // namespace
+}  // namespace reihensatz_test
 }  // namespace zinfolio

@@ -10,7 +10,7 @@
 #include "kern/finmath/woertlich.h"
 
 namespace zinfolio {
-namespace {
+namespace stellen15_test {
 
 void Vergleiche(double wert) {
     ASSERT_EQ(std::bit_cast<std::uint64_t>(RundeAuf15Stellen(wert)),
@@ -91,5 +91,5 @@ TEST(RundeAuf15StellenErzeugt, WieUeberTextNebenDenHaelften) {
     }
 }
 
-}  // namespace
+}  // namespace stellen15_test
 }  // namespace zinfolio

@@ -12,7 +12,7 @@
 #include "kern/finmath/reihen.h"
 
 namespace zinfolio {
-namespace {
+namespace woertlich_test {
 
 std::optional<std::uint64_t> Bits(const std::optional<double>& wert) {
     return wert ? std::optional(std::bit_cast<std::uint64_t>(*wert)) : std::nullopt;
@@ -100,5 +100,5 @@ TEST_P(WoertlichTest, BarwertfunktionHatDieBitsDesEinzelnenBarwerts) {
 
 INSTANTIATE_TEST_SUITE_P(AlleMethoden, WoertlichTest, testing::ValuesIn(alleMethoden));
 
-}  // namespace
+}  // namespace woertlich_test
 }  // namespace zinfolio

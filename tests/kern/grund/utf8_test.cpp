@@ -5,7 +5,7 @@
 #include <vector>
 
 namespace zinfolio {
-namespace {
+namespace utf8_test {
 
 using Zeichen = std::pair<char32_t, std::string>;
 
@@ -34,5 +34,5 @@ TEST(OhneLetzteZeichen, ZaehltZeichenUndNichtBytes) {
     EXPECT_EQ(OhneLetzteZeichen("x", 4), "");
 }
 
-}  // namespace
+}  // namespace utf8_test
 }  // namespace zinfolio

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 namespace zinfolio {
-namespace {
+namespace windows1252_test {
 
 struct Fall {
     std::string_view utf8;
@@ -74,5 +74,5 @@ TEST(Windows1252, NullbyteImTextBleibt) {
     EXPECT_EQ(NachUtf8(text), text);
 }
 
-}  // namespace
+}  // namespace windows1252_test
 }  // namespace zinfolio

@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 
 namespace zinfolio {
-namespace {
+namespace listennummer_test {
 
 struct Fall {
     Liste liste;
@@ -35,5 +35,5 @@ INSTANTIATE_TEST_SUITE_P(
         Fall{Art(Listenart::grossroemisch), 3999, "MMMCMXCIX."},
         Fall{Art(Listenart::grossroemisch), 4000, "4000."}, Fall{Art(Listenart::kleinroemisch), 0, "0."}));
 
-}  // namespace
+}  // namespace listennummer_test
 }  // namespace zinfolio

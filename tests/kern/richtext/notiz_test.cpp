@@ -8,7 +8,7 @@
 #include "kern/richtext/rtfschreiben.h"
 
 namespace zinfolio {
-namespace {
+namespace notiz_test {
 
 Richtext Text(std::initializer_list<std::string> absaetze) {
     Richtext text{.absaetze = {}};
@@ -82,5 +82,5 @@ TEST(FremdeTeile, SchlichterTextHatKeine) {
     EXPECT_FALSE(HatFremdeTeile(""));
 }
 
-}  // namespace
+}  // namespace notiz_test
 }  // namespace zinfolio

@@ -5,7 +5,7 @@
 #include "kern/richtext/lesehilfe.h"
 
 namespace zinfolio {
-namespace {
+namespace rtfdatei_test {
 
 using namespace std::string_literals;
 using testing::ElementsAre;
@@ -107,5 +107,5 @@ TEST(KeinRtf, LeereDateiUndNullbytes) {
     EXPECT_EQ(RtfLesen("\0\0"s), Richtext{});
 }
 
-}  // namespace
+}  // namespace rtfdatei_test
 }  // namespace zinfolio

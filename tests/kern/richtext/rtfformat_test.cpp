@@ -5,7 +5,7 @@
 #include "kern/richtext/lesehilfe.h"
 
 namespace zinfolio {
-namespace {
+namespace rtfformat_test {
 
 using testing::ElementsAre;
 
@@ -168,5 +168,5 @@ TEST(RtfAbsatzformatRegeln, SeitenwechselNachAbsatzendeMachtKeinenLeerenAbsatz) 
     EXPECT_TRUE(text.absaetze.at(1).format.seitenwechselDavor);
 }
 
-}  // namespace
+}  // namespace rtfformat_test
 }  // namespace zinfolio

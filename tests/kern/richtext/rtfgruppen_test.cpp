@@ -5,7 +5,7 @@
 #include "kern/richtext/lesehilfe.h"
 
 namespace zinfolio {
-namespace {
+namespace rtfgruppen_test {
 
 using testing::ElementsAre;
 
@@ -151,5 +151,5 @@ TEST(RtfBinaer, UeberDasDateiendeHinausEndetDerText) {
     EXPECT_THAT(Rumpf(R"(a\bin99999999999999999999 c)"), ElementsAre("a"));
 }
 
-}  // namespace
+}  // namespace rtfgruppen_test
 }  // namespace zinfolio

@@ -5,7 +5,7 @@
 #include "kern/richtext/lesehilfe.h"
 
 namespace zinfolio {
-namespace {
+namespace rtfkopf_test {
 
 using testing::ElementsAre;
 
@@ -98,5 +98,5 @@ TEST(RtfKopf, FarbwoerterAusserhalbDerTabelleWirkenNicht) {
     EXPECT_EQ(Format(R"({\rtf1{\colortbl ;\red9;}\red77\cf1 x})").farbe, (Farbe{9, 0, 0}));
 }
 
-}  // namespace
+}  // namespace rtfkopf_test
 }  // namespace zinfolio

@@ -9,7 +9,7 @@
 #include "kern/richtext/zufallstext.h"
 
 namespace zinfolio {
-namespace {
+namespace rtfrundreise_test {
 
 TEST(RtfRundreise, ZufaelligeDokumenteKommenGleichZurueck) {
     for (std::uint64_t saat = 0; saat < 5000; ++saat) {
@@ -97,5 +97,5 @@ TEST(Normalform, SchriftnameWirdNichtMittenImZeichenGekuerzt) {
     EXPECT_EQ(Schriftname(std::string(62, 'a') + "ä"), std::string(62, 'a') + "ä");
 }
 
-}  // namespace
+}  // namespace rtfrundreise_test
 }  // namespace zinfolio

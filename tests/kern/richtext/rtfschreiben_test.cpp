@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 
 namespace zinfolio {
-namespace {
+namespace rtfschreiben_test {
 
 const std::string kopf =
     "{\\rtf1\\ansi\\ansicpg1252\\deff0\\deflang1031{\\fonttbl{\\f0\\fmodern\\fcharset0 Courier New;}}\r\n";
@@ -155,5 +155,5 @@ TEST(RtfSchreiben, ZaehltUeberEinAnderesAbsatzformatDerselbenListeWeiter) {
         "\\pard{\\pntext\\f0 II\\tab}{\\*\\pn\\pnlvlbody\\pnf0\\pnindent0\\pnstart1\\pnucrm}\\qc\\par\r\n");
 }
 
-}  // namespace
+}  // namespace rtfschreiben_test
 }  // namespace zinfolio

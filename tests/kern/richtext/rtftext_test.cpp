@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 
 namespace zinfolio {
-namespace {
+namespace rtftext_test {
 
 struct Fall {
     const char* name;
@@ -38,5 +38,5 @@ INSTANTIATE_TEST_SUITE_P(
                     Fall{"KaputtesUtf8", "a\xC3", "a?"}),
     [](const auto& fall) { return fall.param.name; });
 
-}  // namespace
+}  // namespace rtftext_test
 }  // namespace zinfolio

@@ -5,7 +5,7 @@
 #include "kern/richtext/lesehilfe.h"
 
 namespace zinfolio {
-namespace {
+namespace rtftextzeichen_test {
 
 using testing::ElementsAre;
 
@@ -160,5 +160,5 @@ INSTANTIATE_TEST_SUITE_P(Alle, Ansicodepages,
                                          // Not known: as 1252.
                                          std::pair{932, "àþ"}, std::pair{0, "àþ"}));
 
-}  // namespace
+}  // namespace rtftextzeichen_test
 }  // namespace zinfolio

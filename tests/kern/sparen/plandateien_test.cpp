@@ -11,7 +11,7 @@
 #include "plaene.h"
 
 namespace zinfolio {
-namespace {
+namespace plandateien_test {
 
 namespace fs = std::filesystem;
 
@@ -254,5 +254,5 @@ TEST_F(Plandateien_, FehlerHinterlaesstDieTabellenBisDahin) {
     EXPECT_EQ(Bytes("Lösungsdatei"), "alt");
 }
 
-}  // namespace
+}  // namespace plandateien_test
 }  // namespace zinfolio

@@ -6,7 +6,7 @@
 #include "plaene.h"
 
 namespace zinfolio {
-namespace {
+namespace planlauf_test {
 
 Konditionen Zins(float satz) {
     return {satz, satz, 0, satz, satz, 0, 1};
@@ -99,5 +99,5 @@ TEST(LetzterKontostand, OhneZeileEinFehler) {
     EXPECT_THROW(static_cast<void>(LetzterKontostand({})), std::runtime_error);
 }
 
-}  // namespace
+}  // namespace planlauf_test
 }  // namespace zinfolio

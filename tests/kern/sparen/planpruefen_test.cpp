@@ -5,7 +5,7 @@
 #include "plaene.h"
 
 namespace zinfolio {
-namespace {
+namespace planpruefen_test {
 
 constexpr std::array alleZiele{Sparziel::endkapital, Sparziel::sparrate, Sparziel::rendite,
                                Sparziel::anspardauer, Sparziel::anfangskapital};
@@ -255,5 +255,5 @@ TEST(PlanPruefen, EingefuegteBuchstabenSindEinFehler) {
     EXPECT_THROW(Pruefe(Sparziel::endkapital, Mit(&Sparplan::Enddatum, "31.02.2008")), std::runtime_error);
 }
 
-}  // namespace
+}  // namespace planpruefen_test
 }  // namespace zinfolio

@@ -5,7 +5,7 @@
 #include "plaene.h"
 
 namespace zinfolio {
-namespace {
+namespace ratenerzeugen_test {
 
 using testing::ElementsAre;
 
@@ -237,5 +237,5 @@ TEST(RatenErzeugen, UeberlaufDerRateIstEinFehler) {
     EXPECT_THROW(Raten(plan), std::runtime_error);
 }
 
-}  // namespace
+}  // namespace ratenerzeugen_test
 }  // namespace zinfolio

@@ -6,7 +6,7 @@
 #include "plaene.h"
 
 namespace zinfolio {
-namespace {
+namespace schnelllauf_test {
 
 /// The balance of a whole pass, from the first row to the last.
 double Neu(Sparziel ziel, const Sparplan& plan, const Planprobe& probe) {
@@ -109,5 +109,5 @@ TEST(Dauerlauf, MehrAls32767ZeilenSindEinFehler) {
     EXPECT_THROW(static_cast<void>(dauerlauf.Endstand(Datum::Lesen("01.01.4800"))), std::runtime_error);
 }
 
-}  // namespace
+}  // namespace schnelllauf_test
 }  // namespace zinfolio

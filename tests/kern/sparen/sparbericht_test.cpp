@@ -7,7 +7,7 @@
 #include "plaene.h"
 
 namespace zinfolio {
-namespace {
+namespace sparbericht_test {
 
 using testing::Contains;
 using testing::ElementsAre;
@@ -190,5 +190,5 @@ TEST(Spardiagramm, ZweiReihenUndDasJahrMitZwoelfLeerzeichen) {
     EXPECT_EQ(diagramm.reihen[1].werte.back(), 2100);
 }
 
-}  // namespace
+}  // namespace sparbericht_test
 }  // namespace zinfolio

@@ -6,7 +6,7 @@
 #include "plaene.h"
 
 namespace zinfolio {
-namespace {
+namespace sparsuche_test {
 
 using testing::StartsWith;
 
@@ -368,5 +368,5 @@ TEST(SparplanRechnen, LaesstSichAnhalten) {
                  RechnungAbgebrochen);
 }
 
-}  // namespace
+}  // namespace sparsuche_test
 }  // namespace zinfolio

@@ -5,7 +5,7 @@
 #include "plaene.h"
 
 namespace zinfolio {
-namespace {
+namespace zinstabelle_test {
 
 Sparplan MitZinsen(const std::vector<std::pair<std::string, std::string>>& zeilen) {
     Sparplan plan = Plan2007();
@@ -139,5 +139,5 @@ TEST(ZinstabelleMarkieren, ZeigtObDerPlanAenderungenHat) {
     EXPECT_TRUE(ZinstabelleMarkieren(MitZinsen({{"01.02.2007", "3"}})));
 }
 
-}  // namespace
+}  // namespace zinstabelle_test
 }  // namespace zinfolio

@@ -8,7 +8,7 @@
 #include "kern/staffel/beispielkonto.h"
 
 namespace zinfolio {
-namespace {
+namespace dateienmischen_test {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -169,5 +169,5 @@ TEST(DateienmischenMitFehler, MehrAls32767ZeilenLassen32767Stehen) {
     EXPECT_EQ(loesung.back(), zuviel[0]);
 }
 
-}  // namespace
+}  // namespace dateienmischen_test
 }  // namespace zinfolio

@@ -10,7 +10,7 @@
 #include "kern/staffel/konto.h"
 
 namespace zinfolio {
-namespace {
+namespace dateikonto_test {
 
 using langsam::Dateikonto;
 
@@ -125,5 +125,5 @@ TEST(Dateikonto, RechnetDasBeispielAufDenCent) {
     EXPECT_EQ(loesung.Lesen(3).Kontostand, 15000 + 86.53);
 }
 
-}  // namespace
+}  // namespace dateikonto_test
 }  // namespace zinfolio

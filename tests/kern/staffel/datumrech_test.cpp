@@ -4,7 +4,7 @@
 #include "kern/staffel/zahlungseingabe.h"
 
 namespace zinfolio {
-namespace {
+namespace datumrech_test {
 
 using enum Abstandseinheit;
 
@@ -81,5 +81,5 @@ TEST(DatumrechFehler, HinterDemKalender) {
     EXPECT_THROW((void)Schaetzung({"31.02.2007", "2", "1", monate, ""}), Datumsfehler);
 }
 
-}  // namespace
+}  // namespace datumrech_test
 }  // namespace zinfolio

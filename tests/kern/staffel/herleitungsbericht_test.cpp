@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 
 namespace zinfolio {
-namespace {
+namespace herleitungsbericht_test {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -108,5 +108,5 @@ TEST(Herleitungsbericht, HeisstWieDasProjekt) {
     EXPECT_EQ(HerleitungsberichtBilden(daten).titel, "Effektivzinssatz");
 }
 
-}  // namespace
+}  // namespace herleitungsbericht_test
 }  // namespace zinfolio

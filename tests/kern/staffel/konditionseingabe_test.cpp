@@ -6,7 +6,7 @@
 #include "kern/staffel/beispielkonto.h"
 
 namespace zinfolio {
-namespace {
+namespace konditionseingabe_test {
 
 const Ablehnung doppelt{"Das Datum existiert bereits.", "Gültigdatum", ""};
 const Ablehnung unvollstaendig{"Unvollständige Daten. Eine Übernahme ist nicht möglich.", "Gültigdatum", ""};
@@ -181,5 +181,5 @@ TEST(KonditionZurEingabe, ZweitzinsartNullKommtAlsEins) {
     }
 }
 
-}  // namespace
+}  // namespace konditionseingabe_test
 }  // namespace zinfolio

@@ -6,7 +6,7 @@
 #include "kern/staffel/beispielkonto.h"
 
 namespace zinfolio {
-namespace {
+namespace konto_test {
 
 using testing::ElementsAre;
 
@@ -196,5 +196,5 @@ TEST(KontoRechnenFehler, DieBerechnungHinterlaesstDieFertigenZeilen) {
     EXPECT_EQ(konto.loesung[2], konto.zahlungen[1]) << "as merged";
 }
 
-}  // namespace
+}  // namespace konto_test
 }  // namespace zinfolio

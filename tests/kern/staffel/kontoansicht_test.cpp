@@ -7,7 +7,7 @@
 #include "kern/staffel/staffelberechnung.h"
 
 namespace zinfolio {
-namespace {
+namespace kontoansicht_test {
 
 using enum Kontoansicht;
 using testing::ElementsAre;
@@ -241,5 +241,5 @@ TEST(Kontoansichten, StehenInDerReihenfolgeDerListe) {
                 ElementsAre("Kurzform", "Detailansicht 1", "Detailansicht 2", "Detailansicht 3"));
 }
 
-}  // namespace
+}  // namespace kontoansicht_test
 }  // namespace zinfolio

@@ -8,7 +8,7 @@
 #include "kern/staffel/staffelberechnung.h"
 
 namespace zinfolio {
-namespace {
+namespace kontobericht_test {
 
 using enum Kontoansicht;
 using testing::ElementsAre;
@@ -267,5 +267,5 @@ TEST(Kontobericht, HeisstWieDasProjekt) {
     EXPECT_EQ(KontoberichtBilden(daten).titel, "Zinsstaffel");
 }
 
-}  // namespace
+}  // namespace kontobericht_test
 }  // namespace zinfolio

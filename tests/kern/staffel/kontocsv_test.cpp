@@ -8,7 +8,7 @@
 #include "kern/staffel/beispielkonto.h"
 
 namespace zinfolio {
-namespace {
+namespace kontocsv_test {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -193,5 +193,5 @@ INSTANTIATE_TEST_SUITE_P(
                    "Das Feld \"Zweitzinsart\" muss eine ganze Zahl von -32768 bis 32767 sein, \"32768\" ist "
                    "keine."}));
 
-}  // namespace
+}  // namespace kontocsv_test
 }  // namespace zinfolio

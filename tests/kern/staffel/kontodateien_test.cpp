@@ -7,7 +7,7 @@
 #include "kern/staffel/beispielkonto.h"
 
 namespace zinfolio {
-namespace {
+namespace kontodateien_test {
 
 using testing::ElementsAre;
 
@@ -110,5 +110,5 @@ TEST_F(KontodateienTest, BeschaedigteErsteZahlungLeertDieTermine) {
     EXPECT_TRUE(termine.Lesen().empty());
 }
 
-}  // namespace
+}  // namespace kontodateien_test
 }  // namespace zinfolio

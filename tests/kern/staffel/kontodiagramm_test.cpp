@@ -6,7 +6,7 @@
 #include "kern/staffel/beispielkonto.h"
 
 namespace zinfolio {
-namespace {
+namespace kontodiagramm_test {
 
 using testing::DoubleEq;
 using testing::ElementsAre;
@@ -135,5 +135,5 @@ TEST(Kontodiagramm, AndereRechnerGebenNurIhreTexteUndZeilen) {
     EXPECT_THAT(diagramm.reihen[1].werte, ElementsAre(0, 7));
 }
 
-}  // namespace
+}  // namespace kontodiagramm_test
 }  // namespace zinfolio

@@ -8,7 +8,7 @@
 #include "kern/finmath/reihen.h"
 
 namespace zinfolio {
-namespace {
+namespace kontoeffektivzins_test {
 
 using testing::IsEmpty;
 using testing::Optional;
@@ -68,5 +68,5 @@ TEST(KontoEffektivzins, OhneZeilenIstAllesLeer) {
     EXPECT_THAT(ergebnis.Herleitung(), IsEmpty());
 }
 
-}  // namespace
+}  // namespace kontoeffektivzins_test
 }  // namespace zinfolio

@@ -8,7 +8,7 @@
 #include "kern/dateien/testordner.h"
 
 namespace zinfolio {
-namespace {
+namespace kontoeinstellungen_test {
 
 using namespace std::string_literals;
 
@@ -124,5 +124,5 @@ TEST(Rechengrundlage, NenntMethodeRhythmusUndAbschluss) {
         "kal/365 Tage  ·  Zinsverrechnung: Quartalsende  ·  Kontoabschluss: 31.03.2007");
 }
 
-}  // namespace
+}  // namespace kontoeinstellungen_test
 }  // namespace zinfolio

@@ -14,7 +14,7 @@
 #include "kern/staffel/kontodateien.h"
 
 namespace zinfolio {
-namespace {
+namespace kontoprojekt_test {
 
 namespace fs = std::filesystem;
 using namespace std::string_literals;
@@ -477,5 +477,5 @@ TEST_F(KontoprojektTest, ScheiterndesUebernehmenLaesstAlleArbeitsdateien) {
     EXPECT_THAT(arbeit.Namen(), SizeIs(3));
 }
 
-}  // namespace
+}  // namespace kontoprojekt_test
 }  // namespace zinfolio

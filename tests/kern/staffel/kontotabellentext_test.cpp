@@ -7,7 +7,7 @@
 #include "kern/staffel/kontoansicht.h"
 
 namespace zinfolio {
-namespace {
+namespace kontotabellentext_test {
 
 Staffelsatz MitStand(Staffelsatz satz, double zins, double gutschrift, double stand) {
     satz.Periodenzins = zins;
@@ -96,5 +96,5 @@ TEST(TabelleAlsCsv, SonderzeichenStehenInAnfuehrungszeichen) {
     EXPECT_EQ(zeile("a, b"), "01.01.2007;a, b;15.000,00;0,00;15.000,00");
 }
 
-}  // namespace
+}  // namespace kontotabellentext_test
 }  // namespace zinfolio

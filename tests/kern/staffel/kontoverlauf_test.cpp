@@ -5,7 +5,7 @@
 #include "kern/staffel/staffelberechnung.h"
 
 namespace zinfolio {
-namespace {
+namespace kontoverlauf_test {
 
 using enum Verzinsungsmethode;
 using Saetze = std::vector<Staffelsatz>;
@@ -120,5 +120,5 @@ TEST(Kontoverlauf, EinLeeresKontoIstKeinFehler) {
     EXPECT_NO_THROW(Staffelberechnung({}, deutsch));
 }
 
-}  // namespace
+}  // namespace kontoverlauf_test
 }  // namespace zinfolio

@@ -5,7 +5,7 @@
 #include "kern/staffel/beispielkonto.h"
 
 namespace zinfolio {
-namespace {
+namespace listenzeile_test {
 
 /// The line without the blanks that pad its last column.
 std::string OhneRand(std::string zeile) {
@@ -67,5 +67,5 @@ TEST(Konditionszeile, Nullen) {
               "0,00                  ");
 }
 
-}  // namespace
+}  // namespace listenzeile_test
 }  // namespace zinfolio

@@ -20,7 +20,7 @@
 #include "kern/staffel/kontoprojekt.h"
 
 namespace zinfolio {
-namespace {
+namespace projektbeschuss_test {
 
 namespace fs = std::filesystem;
 
@@ -244,5 +244,5 @@ TEST_F(ProjektbeschussTest, MitEinerFremdenBeidateiImKlebrigenOrdner) {
     Durchgehen(Vorher::klebrigMitFremder);
 }
 
-}  // namespace
+}  // namespace projektbeschuss_test
 }  // namespace zinfolio

@@ -7,7 +7,7 @@
 #include "kern/finmath/reihen.h"
 
 namespace zinfolio {
-namespace {
+namespace reiheausloesung_test {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -96,5 +96,5 @@ TEST(ReiheAusLoesung, MehrZeilenAlsEineDateiHaeltBeendenStill) {
     EXPECT_THAT(ReiheAusLoesung(loesung), IsEmpty());
 }
 
-}  // namespace
+}  // namespace reiheausloesung_test
 }  // namespace zinfolio

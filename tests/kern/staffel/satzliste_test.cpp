@@ -7,7 +7,7 @@
 #include "kern/staffel/beispielkonto.h"
 
 namespace zinfolio {
-namespace {
+namespace satzliste_test {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -103,5 +103,5 @@ TEST_F(SatzlisteTest, EinGeaenderterZugangNimmtNichtsMit) {
     EXPECT_EQ(saetze, vorher);
 }
 
-}  // namespace
+}  // namespace satzliste_test
 }  // namespace zinfolio

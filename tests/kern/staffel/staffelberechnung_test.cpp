@@ -6,7 +6,7 @@
 #include "kern/staffel/beispielkonto.h"
 
 namespace zinfolio {
-namespace {
+namespace staffelberechnung_test {
 
 using enum Verzinsungsmethode;
 using Saetze = std::vector<Staffelsatz>;
@@ -192,5 +192,5 @@ TEST(FremdeZeilen, BleibenUnveraendertUndZaehlenAlsVorgaenger) {
     }
 }
 
-}  // namespace
+}  // namespace staffelberechnung_test
 }  // namespace zinfolio

@@ -8,7 +8,7 @@
 #include "kern/staffel/staffelberechnung.h"
 
 namespace zinfolio {
-namespace {
+namespace staffelfehler_test {
 
 using enum Verzinsungsmethode;
 using Saetze = std::vector<Staffelsatz>;
@@ -142,5 +142,5 @@ TEST(ErsteZeile, OhneKonditionIstEinFehler) {
     ScheitertNach<Rechenfehler>(0, mitTermin, mitTermin, deutsch);
 }
 
-}  // namespace
+}  // namespace staffelfehler_test
 }  // namespace zinfolio

@@ -9,7 +9,7 @@
 #include "kern/staffel/beispielkonto.h"
 
 namespace zinfolio {
-namespace {
+namespace staffelsatz_test {
 
 using Satzbytes = std::array<std::byte, 129>;
 
@@ -169,5 +169,5 @@ TEST(DatumVon, LiestDasDatumUndScheitertAnBeschaedigtem) {
     EXPECT_THROW((void)DatumVon(Staffelsatz{}), Datumsfehler);
 }
 
-}  // namespace
+}  // namespace staffelsatz_test
 }  // namespace zinfolio

@@ -9,7 +9,7 @@
 #include "kern/staffel/beispielkonto.h"
 
 namespace zinfolio {
-namespace {
+namespace staffelsortierung_test {
 
 using testing::ElementsAre;
 
@@ -171,5 +171,5 @@ TEST(SortiereKonditionen, OrdnetEbenso) {
                                     Kondition("01.03.2007", Einheitszins(1))));
 }
 
-}  // namespace
+}  // namespace staffelsortierung_test
 }  // namespace zinfolio

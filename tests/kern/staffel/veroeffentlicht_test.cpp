@@ -14,7 +14,7 @@
 #include "kern/staffel/kontoeffektivzins.h"
 
 namespace zinfolio {
-namespace {
+namespace veroeffentlicht_test {
 
 using enum Effektivmethode;
 
@@ -199,5 +199,5 @@ TEST(Tilgungsplan, AchtRatenZuSiebenProzentOhneDenRest) {
         EXPECT_EQ(Effektivzins(reihe, methode), "6,99999");
 }
 
-}  // namespace
+}  // namespace veroeffentlicht_test
 }  // namespace zinfolio

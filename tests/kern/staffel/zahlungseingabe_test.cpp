@@ -7,7 +7,7 @@
 #include "kern/staffel/beispielkonto.h"
 
 namespace zinfolio {
-namespace {
+namespace zahlungseingabe_test {
 
 const Ablehnung stufenFehlen{
     "Sie haben Dynamisierung der Zahlungen angekreuzt, aber nicht die Anzahl der Stufen angegeben.", "Stufen",
@@ -145,5 +145,5 @@ TEST(ZahlungseingabePruefen, NullbetragNurWoErErlaubtIst) {
     EXPECT_TRUE(pruefen("0", "5", Nullbetrag::erlaubt));
 }
 
-}  // namespace
+}  // namespace zahlungseingabe_test
 }  // namespace zinfolio

@@ -15,7 +15,7 @@ void PrintTo(const Importausfall& ausfall, std::ostream* strom) {
     *strom << ausfall.zeile << ": " << ausfall.inhalt << ": " << ausfall.grund;
 }
 
-namespace {
+namespace zahlungsimport_test {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -154,5 +154,5 @@ INSTANTIATE_TEST_SUITE_P(
                     Datumsfall{"01.02.20245", "keines"}, Datumsfall{"-1.02.2024", "keines"},
                     Datumsfall{"1. 2.2024", "keines"}, Datumsfall{"01.02.2024 12:00", "keines"}));
 
-}  // namespace
+}  // namespace zahlungsimport_test
 }  // namespace zinfolio

@@ -8,7 +8,7 @@
 #include "kern/staffel/zahlungseingabe.h"
 
 namespace zinfolio {
-namespace {
+namespace zahlungsreihe_test {
 
 using enum Abstandseinheit;
 using testing::DoubleEq;
@@ -220,5 +220,5 @@ TEST(ZahlungenErzeugenFehler, KeineZahlInEinemFeldDasGebrauchtWird) {
                 ElementsAre("01.01.2007", "01.02.2007"));
 }
 
-}  // namespace
+}  // namespace zahlungsreihe_test
 }  // namespace zinfolio

@@ -4,7 +4,7 @@
 #include "kern/staffel/staffelberechnung.h"
 
 namespace zinfolio {
-namespace {
+namespace zinsbasen_test {
 
 struct Fall {
     std::int16_t zweitzinsart;
@@ -68,5 +68,5 @@ INSTANTIATE_TEST_SUITE_P(
                     Fall{2, 0, {1, 0}, {2, 0}, 0, 0}, Fall{2, 300, {1, 0}, {2, 300}, 0, 0},
                     Fall{1, -300, {12, -300}, {12, 0}, 0, 0}, Fall{2, -300, {8, 0}, {12, -300}, 0, 0}));
 
-}  // namespace
+}  // namespace zinsbasen_test
 }  // namespace zinfolio

@@ -5,7 +5,7 @@
 #include "kern/staffel/staffelberechnung.h"
 
 namespace zinfolio {
-namespace {
+namespace zinsmethoden_test {
 
 using enum Verzinsungsmethode;
 
@@ -99,5 +99,5 @@ TEST_P(OhneTageTest, KeineZinsen) {
 INSTANTIATE_TEST_SUITE_P(AlleMethoden, OhneTageTest,
                          testing::Values(deutsch, englisch, franzoesisch, dreissig365, kalender365));
 
-}  // namespace
+}  // namespace zinsmethoden_test
 }  // namespace zinfolio

@@ -7,7 +7,7 @@
 #include "kern/dates/datumsliteral.h"
 
 namespace zinfolio {
-namespace {
+namespace zinstermine_test {
 
 using enum Zinsverrechnungsart;
 using testing::ElementsAre;
@@ -170,5 +170,5 @@ TEST(Zinsverrechnungsarten, StehenInDerReihenfolgeDerListe) {
                                                    "Alle 4 Monate", "Halbjahresende", "Jahresende"));
 }
 
-}  // namespace
+}  // namespace zinstermine_test
 }  // namespace zinfolio

@@ -6,7 +6,7 @@
 #include "kern/grund/rechenfehler.h"
 
 namespace zinfolio {
-namespace {
+namespace einzelfaktor_test {
 
 Einzelfaktor Gerechnet(Finanzfaktor faktor, const std::string& zins = "4,5", const std::string& jahre = "15",
                        const std::string& betrag = "12000") {
@@ -113,5 +113,5 @@ TEST(Einzelfaktor, WasKeineZahlIstUndWasUeberlaeuftScheitert) {
     EXPECT_THROW(static_cast<void>(EinzelfaktorRechnen({{}, "100", "100", riesig}, ergebnis)), Rechenfehler);
 }
 
-}  // namespace
+}  // namespace einzelfaktor_test
 }  // namespace zinfolio

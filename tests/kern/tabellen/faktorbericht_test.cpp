@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 namespace zinfolio {
-namespace {
+namespace faktorbericht_test {
 
 using Zeilen = std::vector<std::string>;
 
@@ -111,5 +111,5 @@ TEST(Einzelfaktorbericht, NenntEingabenErgebnisUndSatz) {
                       "4,5 % einen Wert am heutigen Tage von 6.200,65 €"}));
 }
 
-}  // namespace
+}  // namespace faktorbericht_test
 }  // namespace zinfolio

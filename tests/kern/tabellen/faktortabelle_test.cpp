@@ -8,7 +8,7 @@
 #include "kern/grund/rechenfehler.h"
 
 namespace zinfolio {
-namespace {
+namespace faktortabelle_test {
 
 using Zeile = std::vector<std::string>;
 
@@ -176,5 +176,5 @@ TEST(Faktortabelleninhalt, EinerLeerenTabelleIstLeer) {
     EXPECT_TRUE(FaktortabelleZeigen(std::make_shared<const Faktortabelle>()).spalten.empty());
 }
 
-}  // namespace
+}  // namespace faktortabelle_test
 }  // namespace zinfolio

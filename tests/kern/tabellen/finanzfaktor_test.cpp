@@ -9,7 +9,7 @@
 #include "kern/grund/rechenfehler.h"
 
 namespace zinfolio {
-namespace {
+namespace finanzfaktor_test {
 
 constexpr auto nachschuessig = Rentenfaelligkeit::nachschuessig;
 constexpr auto vorschuessig = Rentenfaelligkeit::vorschuessig;
@@ -162,5 +162,5 @@ TEST(Finanzfaktor, GebrocheneJahreUnterMinusHundertProzentScheitern) {
     ErwarteFehler(Finanzfaktor::AuF, -150, 0.5);
 }
 
-}  // namespace
+}  // namespace finanzfaktor_test
 }  // namespace zinfolio

@@ -8,7 +8,7 @@
 #include "kern/dateien/testordner.h"
 
 namespace zinfolio {
-namespace {
+namespace fintabellen_test {
 
 using namespace std::string_literals;
 
@@ -89,5 +89,5 @@ TEST(FintabellenDatei, EinIndexDenDieListeNichtHatWirdMitSatzGenannt) {
     EXPECT_THROW(static_cast<void>(FintabellenLesen(ordner.Pfad())), Dateifehler);
 }
 
-}  // namespace
+}  // namespace fintabellen_test
 }  // namespace zinfolio

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 namespace zinfolio {
-namespace {
+namespace kurzbericht_test {
 
 TEST(Kurzbericht, NenntFelderZahlweiseUndModusUndAmEndeDasErgebnis) {
     const Kurzeingabe eingabe{
@@ -36,5 +36,5 @@ TEST(Kurzbericht, ZweiErgebnisseStehenBeideAmEnde) {
               "        und Laufzeit in Tagen                                                261,00");
 }
 
-}  // namespace
+}  // namespace kurzbericht_test
 }  // namespace zinfolio

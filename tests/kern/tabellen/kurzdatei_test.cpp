@@ -8,7 +8,7 @@
 #include "kern/dateien/testordner.h"
 
 namespace zinfolio {
-namespace {
+namespace kurzdatei_test {
 
 using namespace std::string_literals;
 
@@ -83,5 +83,5 @@ TEST(Kurzdatei, EineAuswahlDieEsNichtGibtUndEineFalscheArtSindEinSchaden) {
     EXPECT_THROW(Gelesen(Kurzform::Form4b, "Vendwert", Zahlsatz(1)), Dateifehler);
 }
 
-}  // namespace
+}  // namespace kurzdatei_test
 }  // namespace zinfolio

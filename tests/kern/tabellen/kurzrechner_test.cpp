@@ -4,7 +4,7 @@
 #include <set>
 
 namespace zinfolio {
-namespace {
+namespace kurzrechner_test {
 
 using enum Kurzgroesse;
 
@@ -104,5 +104,5 @@ TEST(Kurzrechner, FehlerEndenStillUndLassenDasErgebnisStehen) {
     EXPECT_EQ(bei("9000"), (Texte{"Abgelehnt: ", "1", "9000", "0", "10", "0", "alt"}));
 }
 
-}  // namespace
+}  // namespace kurzrechner_test
 }  // namespace zinfolio

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 namespace zinfolio {
-namespace {
+namespace rentenrhythmus_test {
 
 struct Rhythmusfall {
     Rentenrhythmus rhythmus;
@@ -25,5 +25,5 @@ TEST(Rentenrhythmus, ZahlungenUndKonstantenDerTafel) {
     }
 }
 
-}  // namespace
+}  // namespace rentenrhythmus_test
 }  // namespace zinfolio
