@@ -8,10 +8,10 @@ wurzel="$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)"
 cd "$wurzel"
 source skripte/pakete.sh
 
-builds=(release asan)
+builds=(pruefung asan)
 case "${1:-}" in
     "") ;;
-    --schnell) builds=(release) ;;
+    --schnell) builds=(pruefung) ;;
     *)
         echo "Aufruf: ./test.sh [--schnell]" >&2
         exit 2
