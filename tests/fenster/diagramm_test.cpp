@@ -250,6 +250,26 @@ class DiagrammTest : public QObject {
         QVERIFY(plot_->accessibleDescription().contains("01.01.1954"));
     }
 
+    void tastenVergroessernUmDieMarkeUndZeigenAlles() {
+        Zeichne(Wachstum(500, 10));
+        plot_->setFocus();
+        const QCPRange ganz = plot_->xAxis->range();
+        Druecke(Qt::Key_Plus, Qt::ControlModifier);
+        // Two thirds of the rows, around the middle.
+        QVERIFY(std::abs(plot_->xAxis->range().size() - ganz.size() / 1.5) < 1e-9 * ganz.size());
+        QVERIFY(std::abs(plot_->xAxis->range().center() - ganz.center()) < 1e-9 * ganz.size());
+        Druecke(Qt::Key_Minus, Qt::ControlModifier);
+        QVERIFY(std::abs(plot_->xAxis->range().size() - ganz.size()) < 1e-9 * ganz.size());
+        Druecke(Qt::Key_End);
+        for (int i = 0; i < 5; ++i)
+            Druecke(Qt::Key_Plus, Qt::ControlModifier);
+        QVERIFY(plot_->xAxis->range().contains(499));
+        QVERIFY(plot_->xAxis->range().size() < ganz.size() / 5);
+        QVERIFY(!Marke().isEmpty());
+        Druecke(Qt::Key_0, Qt::ControlModifier);
+        QCOMPARE(plot_->xAxis->range().size(), ganz.size());
+    }
+
     void radVergroessertUndDoppelklickZeigtAlles() {
         Zeichne(Wachstum(500, 10));
         const QCPRange ganz = plot_->xAxis->range();

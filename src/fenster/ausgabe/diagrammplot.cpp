@@ -165,6 +165,15 @@ void Diagrammplot::AllesZeigen() {
     replot();
 }
 
+void Diagrammplot::Vergroessern(int stufen) {
+    constexpr double zuwachs = 1.5;
+    const auto marke = marke_.Zeile();
+    const double mitte = marke ? static_cast<double>(*marke) : xAxis->range().center();
+    xAxis->scaleRange(std::pow(zuwachs, -stufen), mitte);
+    replot();
+    if (marke) Markieren(*marke, axisRect()->center().y());
+}
+
 void Diagrammplot::AusschnittBegrenzen() {
     const QCPRange ganz = GanzerBereich();
     const double breite = std::clamp(xAxis->range().size(), std::min(2.0, ganz.size()), ganz.size());

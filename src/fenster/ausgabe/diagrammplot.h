@@ -11,8 +11,9 @@ namespace zinfolio {
 
 class Zeilenteilung;
 
-/// Draws a chart as lines over its rows. The wheel zooms, dragging moves, a double click shows all rows
-/// again; the pointer, or the arrow keys with Home and End, mark a row.
+/// Draws a chart as lines over its rows. The wheel zooms, with or without Ctrl, dragging moves, a double
+/// click shows all rows again; the pointer, or the arrow keys with Home and End, mark a row and bring it into
+/// sight.
 class Diagrammplot : public QCustomPlot {
   public:
     explicit Diagrammplot(QWidget* eltern = nullptr);
@@ -22,6 +23,8 @@ class Diagrammplot : public QCustomPlot {
     /// Puts the chart's title above it, for paper.
     void TitelZeigen();
     void AllesZeigen();
+    /// Shows fewer rows by so many steps, or more by negative ones, around the marked row or the middle.
+    void Vergroessern(int stufen);
 
     /// Gives the drawing a size without a window around it.
     void Einpassen(QSize groesse);

@@ -46,7 +46,10 @@ void FormDiagramm::BefehleAnlegen() {
     };
     befehl("Bildkopieren", "Bild &kopieren", QKeySequence::Copy, [this] { BildKopieren(); });
     befehl("Bildsichern", "Bild &speichern …", {}, [this] { BildSpeichern(); });
-    befehl("Alleszeigen", "&Alles zeigen", {}, [this] { Chart_->AllesZeigen(); });
+    befehl("Groesser", "&Größer", QKeySequence::ZoomIn, [this] { Chart_->Vergroessern(1); });
+    befehl("Kleiner", "K&leiner", QKeySequence::ZoomOut, [this] { Chart_->Vergroessern(-1); });
+    befehl("Alleszeigen", "&Alles zeigen", QKeySequence(Qt::CTRL | Qt::Key_0),
+           [this] { Chart_->AllesZeigen(); });
 }
 
 void FormDiagramm::Zeigen(const Diagramm& diagramm) {
