@@ -12,6 +12,7 @@ namespace zinfolio {
 
 Jahreswertseite::Jahreswertseite(QWidget* eltern) : QWidget(eltern), grid6_(new Tabelle("grid6", this)) {
     setObjectName("Frame(4)");
+    grid6_->setAccessibleName("Barwerte aller Jahre");
     auto* anordnung = new QVBoxLayout(this);
     anordnung->addWidget(new QLabel("Barwerttabelle für alle Jahre", this));
     anordnung->addWidget(Seite(grid6_, {NeueTaste("Command21", "&Zurück", this, [this] { emit zurueck(); })}),

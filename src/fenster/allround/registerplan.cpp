@@ -28,6 +28,7 @@ RegisterPlan::RegisterPlan(QWidget* eltern)
       Command20_(NeueTaste("Command20", "&Grafik", this, [this] { emit grafikVerlangt(); })),
       grid5_(new Tabelle("grid5", this)) {
     setObjectName("Frame(5)");
+    grid5_->setAccessibleName("Zins- und Tilgungsplan");
     hinweis_->setObjectName("Planhinweis");
     hinweis_->hide();
     Combo4_->setCurrentIndex(static_cast<int>(Plantermine::monatsende));

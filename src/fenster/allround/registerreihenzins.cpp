@@ -21,6 +21,7 @@ RegisterReihenzins::RegisterReihenzins(QWidget* eltern)
       Grid_(new Tabelle("Grid", this)),
       Drucken_(NeueTaste("Drucken", "Dru&cken", this, [this] { emit druckenVerlangt(); })) {
     setObjectName("Frame(1)");
+    Grid_->setAccessibleName("Herleitung des Effektivzinssatzes");
     Meld_->setObjectName("Meld");
     Meld_->setWordWrap(true);
     Combo1_->setCurrentIndex(static_cast<int>(Effektivmethode::pangv2000) - 1);

@@ -25,6 +25,7 @@ Sensitivitaetsseite::Sensitivitaetsseite(QWidget* eltern)
       Grid4_(new Tabelle("Grid4", this)),
       hinweis_(new QLabel("Mit diesen Angaben ließ sich die Tabelle nicht rechnen.", this)) {
     setObjectName("Frame(3)");
+    Grid4_->setAccessibleName("Werte bei anderen Zinssätzen");
     hinweis_->setObjectName("Sensitivitätshinweis");
     Combo2_->setCurrentIndex(ueblicherSchritt);
     auto* kopf = new Eingabezeile(this);

@@ -45,6 +45,7 @@ Werteseite::Werteseite(QWidget* eltern)
       Dynamorinterpoliert_(Ergebnistext("Dynamorinterpoliert", Frame1_)),
       Grid3_(new Tabelle("Grid3", this)) {
     setObjectName("Frame(2)");
+    Grid3_->setAccessibleName("Werte der Zahlungen");
     auto* anordnung = new QVBoxLayout(this);
     anordnung->setContentsMargins(0, 0, 0, 0);
     anordnung->addWidget(Kopf());

@@ -23,6 +23,7 @@ FormDiagramm::FormDiagramm(const Diagrammart& art, QWidget* eltern)
     setObjectName(QString::fromUtf8(art.rahmen));
     Chart_->setObjectName(QString::fromUtf8(art.diagramm));
     setFocusProxy(Chart_);
+    Chart_->setAccessibleName("Diagramm");
     auto* drucken = NeueTaste(art.drucken, "Dru&cken", this, [this] { Drucken(); });
     auto* speichern = NeueTaste("Bildspeichern", "&Bild speichern", this, [this] { BildSpeichern(); });
     auto* zuruecktaste =

@@ -59,6 +59,7 @@ FormVorschau::FormVorschau(std::filesystem::path arbeitsordner, const Vorschauar
       Combo18_(NeueAuswahl("Combo18", ziele, this)) {
     setObjectName(QString::fromUtf8(art.rahmen));
     setFocusProxy(VP_);
+    Combo18_->setAccessibleName("Ziel des Exports");
     Zoomliste();
     auto* anordnung = new QVBoxLayout(this);
     anordnung->addLayout(Seitenleiste());

@@ -16,6 +16,7 @@ FormSatzliste::FormSatzliste(const Satzlistenart& art, const Satzdatei<Staffelsa
       datei_(datei),
       tabelle_(new Tabelle(art.name, eltern)),
       rueckgaengig_(nullptr) {
+    tabelle_->setAccessibleName(art.ansage);
     NeuerBefehl("Bea&rbeiten", {Qt::Key_Return, Qt::Key_Enter}, [this] { bearbeiten(); });
     NeuerBefehl("&Löschen", {QKeySequence::Delete}, [this] { MarkierteLoeschen(); });
     rueckgaengig_ = NeuerBefehl({}, {QKeySequence::Undo}, [this] { SchrittRueckgaengig(); });

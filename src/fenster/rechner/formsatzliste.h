@@ -15,6 +15,8 @@ namespace zinfolio {
 /// What tells one list of rows from another.
 struct Satzlistenart {
     QString name;
+    /// what a screen reader calls it
+    QString ansage;
     std::vector<Spalte<Staffelsatz>> spalten;
     /// A whole row as one line, for screen readers.
     std::string (*zeile)(const Staffelsatz&);

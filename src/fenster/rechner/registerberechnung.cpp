@@ -34,6 +34,7 @@ RegisterBerechnung::RegisterBerechnung(Auszugsart art, QWidget* eltern)
       grundlage_(new QLabel(this)),
       Grid_(new Tabelle("Grid", this)) {
     setObjectName(art_.rahmen);
+    Grid_->setAccessibleName("Kontoauszug");
     auto* anordnung = new QVBoxLayout(this);
     anordnung->addWidget(Kopfzeile());
     anordnung->addWidget(Effektivzeile());

@@ -106,6 +106,7 @@ std::string Textzelle(const Staffelsatz& satz) {
 
 Satzlistenart Zahlungsliste() {
     return {"List1",
+            "Zahlungen",
             {{.kopf = "Datum", .zelle = Datumszelle, .art = Zellart::datum},
              {.kopf = "Betrag €", .zelle = Betragszelle},
              {.kopf = "Beschreibung",
@@ -187,6 +188,7 @@ QWidget* RegisterZahlungen::Listenseite() {
 
 QWidget* RegisterZahlungen::Vorschauseite() {
     Grid2_ = new Tabelle("Grid2");
+    Grid2_->setAccessibleName("Vorschau der Zahlungsreihe");
     QWidget* seite =
         Seite(Grid2_, {
                           NeueTaste("Command3", "über&nehmen", this, [this] { VorschauUebernehmen(); }),

@@ -50,6 +50,8 @@ QWidget* Zinstabellenseite::Zeilenblock(std::size_t von, std::size_t bis) {
         auto* betrag = new Eingabefeld(QString::fromStdString(Zinszeilenname(i, Zinsspalte::betrag)),
                                        Tastenfilter::prozent, this);
         betrag->setAlignment(Qt::AlignRight);
+        datum->setAccessibleName(QString("Gültig ab, Zeile %1").arg(i + 1));
+        betrag->setAccessibleName(QString("Zinssatz in Prozent, Zeile %1").arg(i + 1));
         const int zeile = static_cast<int>(i - von) + 1;
         raster->addWidget(new QLabel(QString::number(i + 1)), zeile, 0, Qt::AlignRight);
         raster->addWidget(datum, zeile, 1);

@@ -15,6 +15,7 @@ namespace zinfolio {
 RegisterEffektivzins::RegisterEffektivzins(QWidget* eltern)
     : QWidget(eltern), Effzisa_(NeueKennzahl("Effzisa", this)), Grid1_(new Tabelle("Grid1", this)) {
     setObjectName("Frame8");
+    Grid1_->setAccessibleName("Herleitung des Effektivzinssatzes");
     auto* kopf = new QHBoxLayout;
     auto* ueberschrift = new QLabel(Anzeigetext(herleitungsueberschrift));
     ueberschrift->setObjectName("Label25");

@@ -68,6 +68,7 @@ std::string Geltungszelle(const Staffelsatz& satz) {
 
 Satzlistenart Konditionsliste() {
     return {"List2",
+            "Zinskonditionen",
             {{.kopf = "Gültig ab", .zelle = Datumszelle, .art = Zellart::datum},
              {.kopf = "1. Guthaben-\nzins %", .zelle = Satzzelle<&Konditionen::Gutzins1>},
              {.kopf = "2. Guthaben-\nzins %", .zelle = Satzzelle<&Konditionen::Gutzins2>},

@@ -45,6 +45,7 @@ RegisterTabelle::RegisterTabelle(QWidget* eltern)
       titel_(new QLabel(this)),
       Grid_(new Tabelle("Grid", this)) {
     setObjectName("Frame_Tabelle");
+    Grid_->setAccessibleName("Faktorentabelle");
     titel_->setObjectName("Tabellentitel");
     auto* rechts = new QVBoxLayout;
     rechts->setContentsMargins(0, 6, 0, 0);

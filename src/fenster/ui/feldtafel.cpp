@@ -138,6 +138,7 @@ void Feldtafel::Platzieren(Eintrag& neu, Feldraster& raster, bool mitBegleiter) 
     if (!b.hinter.empty()) {
         reihe = reihen_.at(b.hinter);
         reihe.raster->Dahinter(reihe.nummer, neu.element);
+        neu.element->setAccessibleName(Zeilentitel(b));
     } else if (HatEigenenTitel(b.art)) {
         if (mitBegleiter)
             raster.Titelzeile(neu.element);
@@ -155,6 +156,13 @@ void Feldtafel::Platzieren(Eintrag& neu, Feldraster& raster, bool mitBegleiter) 
         neu.dabei.push_back(dahinter);
     }
     reihen_[b.name] = reihe;
+}
+
+QString Feldtafel::Zeilentitel(const Feldbeschreibung& beschreibung) const {
+    const Eintrag* vorn = Suchen(beschreibung.hinter);
+    if (!vorn) return {};
+    const QString titel = Anzeigetext(vorn->beschreibung.titel).remove('&');
+    return titel.isEmpty() ? Zeilentitel(vorn->beschreibung) : titel;
 }
 
 void Feldtafel::Verbinden(const Eintrag& neu) {

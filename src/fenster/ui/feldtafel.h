@@ -66,6 +66,8 @@ class Feldtafel : public QObject {
     };
 
     [[nodiscard]] const Eintrag* Suchen(std::string_view name) const;
+    /// The caption of the row that a control without one stands in, as it is spoken.
+    [[nodiscard]] QString Zeilentitel(const Feldbeschreibung& beschreibung) const;
     [[nodiscard]] QWidget* Bauen(const Feldbeschreibung& beschreibung);
     /// What Tab stops at, in its order.
     [[nodiscard]] static std::vector<QWidget*> Fokuselemente(const Eintrag& element);

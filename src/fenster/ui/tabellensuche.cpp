@@ -33,6 +33,7 @@ Tabellensuche::Tabellensuche(QTableView& tabelle)
         auto* taste = new QToolButton(this);
         taste->setArrowType(pfeil);
         taste->setToolTip(schritt > 0 ? "Nächster Treffer (F3)" : "Voriger Treffer (Umschalt+F3)");
+        taste->setAccessibleName(schritt > 0 ? "Nächster Treffer" : "Voriger Treffer");
         taste->setFocusPolicy(Qt::NoFocus);
         connect(taste, &QToolButton::clicked, this, [this, weite = schritt] { Weiter(weite); });
         zeile->addWidget(taste);

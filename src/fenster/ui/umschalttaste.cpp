@@ -15,6 +15,7 @@ Umschalttaste::Umschalttaste(const QString& name, std::span<const std::string_vi
 void Umschalttaste::Setze(int stelle) {
     stelle_ = stelle;
     setText(Anzeigetext(texte_[static_cast<std::size_t>(stelle)]));
+    setAccessibleDescription(text());
     emit umgeschaltet();
 }
 
