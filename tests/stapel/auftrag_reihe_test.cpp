@@ -98,6 +98,17 @@ TEST(Reihenwertauftrag, LeereReiheScheitertBeimLesenDerErstenZeile) {
               OhneErgebnis("1", "Es wurde kein Effektivzinssatz gefunden."));
 }
 
+TEST(Reihenwertauftrag, MehrZeilenAlsEineDateiFasstScheiternMitDerMeldungDerSuche) {
+    const auto mit = [](int anzahl) {
+        std::string zahlungen = R"([{"Datum":"01.01.2007","Betrag":1})";
+        for (int i = 1; i < anzahl; ++i)
+            zahlungen += R"(,{"Datum":"01.01.2007","Betrag":1})";
+        return Ergebnis(Reihenwert(zahlungen + "]", R"(,"Effektivmethode":3,"Zinssatz":5)"));
+    };
+    EXPECT_THAT(mit(32767), HasSubstr(R"("ok":true,"Endwert":32767,"Barwert":32767,)"));
+    EXPECT_EQ(mit(32768), OhneErgebnis("1", "Es wurde kein Effektivzinssatz gefunden."));
+}
+
 TEST(Staffelauftrag, MitEffektivmethodeTraegtErDieRenditeDesKontos) {
     // 1000 for 360 days at 10 %: 1100 come back.
     const std::string auftrag =

@@ -1,6 +1,4 @@
-#include "kern/dateien/satzdatei.h"
 #include "kern/finmath/reiheauswerten.h"
-#include "kern/grund/rechenfehler.h"
 #include "stapel/auftraege/felder.h"
 #include "stapel/auftraege/rechnungen.h"
 
@@ -36,7 +34,6 @@ void TabelleSchreiben(std::string_view name, const std::optional<std::vector<Erg
 }
 
 std::optional<Ablehnung> RechneReihenwert(const Reihenwertauftrag& reihe, JsonSchreiber& ergebnis) {
-    if (reihe.Zahlungen.saetze.size() > HoechstzahlSaetze) throw Rechenfehler("Mehr als 32767 Zahlungen.");
     const Reihenauswertung werte =
         ReiheAuswerten(reihe.Zahlungen.saetze, reihe.Effektivmethode, reihe.Zinssatz, Tabellen::schreiben);
     if (!werte.Meldung.empty()) return Ablehnung{werte.Meldung, "", ""};
