@@ -328,6 +328,28 @@ class Form61000Test : public QObject {
         QCOMPARE(Feldtext("Abzins2"), "10");
     }
 
+    void derBerichtNenntDenZinsDerTabelleAuchWennDasFeldGeleertWurde() {
+        Investiere();
+        Betritt(barwert);
+        Fuelle(Form(), "Abzins2", "");
+        const fs::path datei = stand_->ablage.Pfad() / "Wert.htm";
+        const Dateiwahl wahl(datei);
+        Klicke(Form(), "Drucken1");
+        WaehleIn("Combo18", 3);
+        Klicke(Form(), "Command9");
+        QVERIFY(Inhalt(datei).find("Zins : 10,000000 %") != std::string::npos);
+    }
+
+    void vorgabeDieSichNichtSpeichernLaesstWirdGemeldet() {
+        Finde<QAction>(&Form(), "Einstellungen")->trigger();
+        fs::remove_all(stand_->arbeit.Pfad());
+        const Zeuge zeuge;
+        Klicke(Form(), "Command8");
+        QCOMPARE(zeuge.texte.size(), 1);
+        QVERIFY(zeuge.texte[0].startsWith("Die Voreinstellung konnte nicht gespeichert werden."));
+        QVERIFY(Sichtbar("Abzins"));
+    }
+
     void negativeUndRiesigeZinsenRechnen() {
         Investiere();
         Betritt(barwert);

@@ -17,6 +17,7 @@
 #include "fenster/rechner/registernotizen.h"
 #include "fenster/rechner/registerzahlungen.h"
 #include "fenster/rechner/suchzeile.h"
+#include "fenster/ui/geschuetzt.h"
 #include "kern/allround/ansichten.h"
 #include "kern/allround/jahreswerte.h"
 #include "kern/allround/stillrechnen.h"
@@ -182,7 +183,7 @@ Bericht Form61000::Effektivzinsbericht() const {
 Bericht Form61000::Wertbericht() const {
     return AllroundberichtBilden({.art = stand_.Anzeigeart,
                                   .projekt = Projektname().toStdString(),
-                                  .Abzins2 = werte_->Eingabe({}).Abzins2,
+                                  .Abzins2 = werte_->GerechneterZins(),
                                   .tabelle = WertansichtBilden(stand_.Werte)});
 }
 
@@ -220,8 +221,10 @@ void Form61000::NotizenKopieren() {
 }
 
 void Form61000::VorgabezinsSpeichern() {
-    dateien_.VorgabezinsSchreiben(einstellungen_->Abzins());
-    Zurueck();
+    const bool gespeichert = MitSchreibmeldung(
+        this, [this] { dateien_.VorgabezinsSchreiben(einstellungen_->Abzins()); },
+        "Die Voreinstellung konnte nicht gespeichert werden.\n\n");
+    if (gespeichert) Zurueck();
 }
 
 }  // namespace zinfolio

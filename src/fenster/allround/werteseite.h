@@ -28,6 +28,8 @@ class Werteseite : public QWidget {
     /// The controls as they stand, and what an analysis made of them.
     [[nodiscard]] Werteingabe Eingabe(const std::string& abzins) const;
     void EingabeZeigen(const Werteingabe& eingabe);
+    /// The rate that the table was calculated with; the field may have been emptied since.
+    [[nodiscard]] const std::string& GerechneterZins() const { return gerechneterZins_; }
 
     void Zeigen(const Wertergebnis& ergebnis);
 
