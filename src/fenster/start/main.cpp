@@ -2,6 +2,7 @@
 #include <QDeadlineTimer>
 #include <QFileInfo>
 #include <QThread>
+#include <cstdio>
 
 #include "fenster/hilfe/hilfetaste.h"
 #include "fenster/start/form1.h"
@@ -60,6 +61,10 @@ Startlage OrdnerBereiten(const std::filesystem::path& ordner, const QString& pro
 }  // namespace
 
 int main(int argc, char** argv) {
+    if (const auto auskunft = Auskunft(argc > 1 ? argv[1] : "")) {
+        std::fputs(auskunft->c_str(), stdout);
+        return 0;
+    }
     QApplication programm(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     DeutscheTexteLaden(programm);
@@ -68,7 +73,7 @@ int main(int argc, char** argv) {
     Hilfetaste hilfetaste;
     programm.installEventFilter(&hilfetaste);
     const QStringList argumente = QApplication::arguments().mid(1);
-    const QString projekt = argumente.size() == 1 ? QFileInfo(argumente[0]).absoluteFilePath() : QString();
+    const QString projekt = argumente.isEmpty() ? QString() : QFileInfo(argumente[0]).absoluteFilePath();
     const auto ordner = Arbeitsordner();
     std::optional<Ordnersperre> sperre;
     const Startlage lage = OrdnerBereiten(ordner, projekt, sperre);

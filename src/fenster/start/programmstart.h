@@ -2,6 +2,9 @@
 
 #include <QString>
 #include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
 
 #include "kern/dateien/sperre.h"
 
@@ -23,6 +26,10 @@ class Ordnersperre {
   private:
     Sperre sperre_;
 };
+
+/// What the program answers on the command line alone, without a display: its help, its version; nothing for
+/// any other first argument.
+[[nodiscard]] std::optional<std::string> Auskunft(std::string_view argument);
 
 /// True where leaving a calculator leads back to the start screen: the command line is empty or names the
 /// program by its fixed name, "Zinfolio.exe".
