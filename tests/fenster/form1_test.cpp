@@ -10,6 +10,7 @@
 #include "fenster/formhelfer.h"
 #include "fenster/staffel/form48000.h"
 #include "fenster/start/programmstart.h"
+#include "fenster/ui/tabellendokument.h"
 
 using namespace zinfolio;
 
@@ -97,6 +98,20 @@ class Form1Test : public QObject {
         zeuge.antwort = Antwort::nein;
         Rechner()->close();
         QVERIFY(!form.ProjektOeffnen("etwas.txt"));
+    }
+
+    void dasImpressumNenntBibliothekenMitVersionUndLizenz() {
+        const Zeuge zeuge;
+        const Testordner ordner;
+        Form1 form(ordner.Pfad());
+        Finde<QAction>(&form, "Impr")->trigger();
+        QCOMPARE(zeuge.titel, QStringList("Impressum"));
+        for (const char* zeile :
+             {"\nQt 6\\.\\d+\\.\\d+ \\(LGPL 3\\)", "\nQCustomPlot \\d+\\.\\d+\\.\\d+ \\(GPL 3 oder neuer\\)",
+              "\nsimdjson \\d+\\.\\d+\\.\\d+ \\(Apache 2\\.0", "\nCLI11 \\d+\\.\\d+\\.\\d+ \\(BSD 3"})
+            QVERIFY2(QRegularExpression(zeile).match(zeuge.texte[0]).hasMatch(), zeile);
+        QCOMPARE(QRegularExpression("\nlibxlsxwriter \\d+\\.\\d+").match(zeuge.texte[0]).hasMatch(),
+                 TabellendokumentMoeglich());
     }
 
     void kommandozeileEntscheidetUeberDieRueckkehr() {

@@ -7,10 +7,26 @@
 namespace zinfolio {
 namespace {
 
-/// What the program is built on, for whoever asks what runs on his machine.
-constexpr const char* bibliotheken =
-    "Qt %1 (LGPL 3)\nQCustomPlot (GPL 3)\nlibxlsxwriter (BSD)\nsimdjson (Apache 2.0) und CLI11 (BSD) im "
-    "Befehl zinfolio-cli";
+struct Bibliothek {
+    const char* name;
+    /// the one that was built with; empty: this program is built without it
+    const char* version;
+    const char* lizenz;
+};
+
+/// What the program and its batch command are built on, for whoever asks what runs on his machine.
+QString Bibliotheken() {
+    QString text;
+    for (const auto& [name, version, lizenz] : {
+             Bibliothek{"Qt", qVersion(), "LGPL 3"},
+             Bibliothek{"QCustomPlot", ZINFOLIO_MIT_QCUSTOMPLOT, "GPL 3 oder neuer"},
+             Bibliothek{"libxlsxwriter", ZINFOLIO_MIT_XLSXWRITER, "BSD 2"},
+             Bibliothek{"simdjson", ZINFOLIO_MIT_SIMDJSON, "Apache 2.0, in zinfolio-cli"},
+             Bibliothek{"CLI11", ZINFOLIO_MIT_CLI11, "BSD 3, in zinfolio-cli"},
+         })
+        if (*version != '\0') text += QString("\n%1 %2 (%3)").arg(name, version, lizenz);
+    return text;
+}
 
 }  // namespace
 
@@ -19,8 +35,7 @@ void ImpressumZeigen(QWidget* fenster) {
                   {.text = "Zinfolio " ZINFOLIO_VERSION "\nRechner für Zinsen, Renditen und Sparpläne\n\n"
                            "Freie Software unter der GNU General Public License, Version 3 oder neuer.\n"
                            "Ohne jede Gewährleistung.\n\n" +
-                           QUrl(ZINFOLIO_SERVER).host() + "\n\nVerwendete Bibliotheken:\n" +
-                           QString::fromUtf8(bibliotheken).arg(QString::fromLatin1(qVersion())),
+                           QUrl(ZINFOLIO_SERVER).host() + "\n\nVerwendete Bibliotheken:" + Bibliotheken(),
                    .titel = "Impressum"},
                   Meldungsart::hinweis);
 }
