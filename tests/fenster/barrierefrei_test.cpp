@@ -15,64 +15,14 @@
 #include <qcustomplot.h>
 #include <set>
 
-#include "fenster/allround/form61000.h"
+#include "fenster/allefenster.h"
 #include "fenster/ausgabe/diagrammgestalt.h"
-#include "fenster/ausgabe/form34.h"
 #include "fenster/formhelfer.h"
-#include "fenster/hilfe/hilfefenster.h"
-#include "fenster/rechner/importvorschau.h"
-#include "fenster/sparen/sparrechner.h"
-#include "fenster/staffel/form48000.h"
-#include "fenster/start/form1.h"
-#include "fenster/tabellen/form14005.h"
-#include "fenster/tabellen/kurzfenster.h"
 #include "fenster/ui/tabelle.h"
 
 using namespace zinfolio;
 
 namespace {
-
-using Ordner = std::filesystem::path;
-using Fenster = std::unique_ptr<QWidget>;
-
-template <class Form>
-Fenster Neu(const Ordner& ordner) {
-    return std::make_unique<Form>(ordner);
-}
-
-/// A preview with lines that were taken and lines that were not.
-Fenster NeueImportvorschau(const Ordner& /*ordner*/) {
-    const Zahlungsimport ergebnis = ZahlungenEinlesen("Datum;Betrag\n01.01.2024;1\n02.01.2024;x\n");
-    return std::make_unique<Importvorschau>(ergebnis, "der Datei a.csv", Tabelleninhalt{}, nullptr);
-}
-
-struct Fensterart {
-    const char* name;
-    std::function<Fenster(const Ordner&)> neu;
-};
-
-/// All windows of the program.
-std::vector<Fensterart> AlleFenster() {
-    std::vector<Fensterart> alle{
-        {"Form1", Neu<Form1>},
-        {"Form48000", Neu<Form48000>},
-        {"Form61000", Neu<Form61000>},
-        {"Form90000", Neu<Form90000>},
-        {"Form92000", Neu<Form92000>},
-        {"Form94000", Neu<Form94000>},
-        {"Form96000", Neu<Form96000>},
-        {"Form99000", Neu<Form99000>},
-        {"Form14005", Neu<Form14005>},
-        {"Form34", Neu<Form34>},
-        {"Hilfe", [](const Ordner&) { return std::make_unique<Hilfefenster>(); }},
-        {"Importvorschau", NeueImportvorschau},
-    };
-    for (const Kurzrechner& rechner : AlleKurzrechner())
-        alle.push_back({rechner.name.data(), [&rechner](const Ordner& ordner) {
-                            return std::make_unique<Kurzfenster>(rechner, ordner);
-                        }});
-    return alle;
-}
 
 /// What a user types into, chooses from, presses or reads row by row; not the parts that the toolkit makes of
 /// it by itself.

@@ -41,7 +41,7 @@ const Hilfeort* OrtVon(const QWidget& element) {
 /// A caption as the handbook writes it: no mnemonic, nothing behind the words.
 QString Beschriftung(QString text) {
     text.remove('&');
-    static const QRegularExpression nachspann(R"(\s*[:?(%].*$)");
+    static const QRegularExpression nachspann(R"(\s*[:?(%,].*$)");
     return text.remove(nachspann).trimmed();
 }
 
