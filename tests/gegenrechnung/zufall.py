@@ -34,17 +34,19 @@ def kommazahl(wert, stellen=2):
 
 
 def betrag(r):
-    return r.choice(["0", "", "-250", "1.234,5", "50", "100", "5000", kommazahl(r.uniform(0.01, 9000))])
+    ungewoehnlich = ["0", "", "-250", "1.234,5"]
+    return r.choice(ungewoehnlich if r.random() < 0.25 else ["50", "100", "1000", kommazahl(r.uniform(0.01, 9000))])
 
 
 def zins(r):
-    return r.choice(["0", "", "-2", "25", "0,5", "4", kommazahl(r.uniform(0.05, 9), r.randint(0, 4))])
+    ungewoehnlich = ["0", "", "-2", "25"]
+    return r.choice(ungewoehnlich) if r.random() < 0.25 else kommazahl(r.uniform(0.05, 9), r.randint(0, 4))
 
 
 def zahlungen(r, anzahl=None):
     liste, wann, art = [], tag(r, 1995, 2024), r.random()
     for k in range(anzahl or r.choice([1, 2, 3, 4, 8, 24])):
-        wert = round(r.uniform(50, 3000), 2)
+        wert = r.choice([100, 1000, round(r.uniform(50, 3000), 2), round(r.uniform(50, 3000), 2)])
         if k == 0:
             wert *= -10
         if art > 0.7:
@@ -114,35 +116,36 @@ def tilgungsplan(r):
 
 
 def dynamisierung(r, form):
-    felder = {"Check2": 1, "Anzahl": r.choice(["1", "2", "12", "12", "24", "0", ""])}
+    felder = {"Check2": 1, "Anzahl": r.choice(["1", "2", "3", "6", "12", "12", "24", r.choice(["0", ""])])}
     felder["Delta"] = r.choice(["10", "2,5", "-5", "0", "", "1,75", "-110"])
     if form == "Form96000":
         return felder
     felder["Delta2"] = r.choice(["10", "-25,5", "0", "", "3,33"])
     grenzen = {
-        "Check3": ("DynAnz", ["1", "2", "5", "0", ""]),
-        "Check4": ("MaxSparrate", ["500", "9999", "100,55", ""]),
-        "Check5": ("MinSparrate", ["5", "0", "-1000", "100,5", ""]),
+        "Check3": ("DynAnz", ["1", "2", "5", r.choice(["0", ""])]),
+        "Check4": ("MaxSparrate", ["55,5", "120", "1100,55", "9999", ""]),
+        "Check5": ("MinSparrate", ["5", "0", "-1000", "45,5"]),
     }
     for haken, (feld, werte) in grenzen.items():
-        if r.random() < 0.35:
+        if r.random() < 0.4:
             felder.update({haken: 1, feld: r.choice(werte)})
     return felder
 
 
-def zinstabelle(r, anfang):
+def zinstabelle(r, anfang, ende):
     def zeile():
         wann = anfang + timedelta(days=r.randint(-5 if r.random() < 0.1 else 1, 5000))
         satz = "0" if r.random() < 0.02 else r.choice(["1", "2,5", "0,25", "-1", "7,125", "3"])
-        return [datumstext(wann), satz]
+        return [datumstext(ende if r.random() < 0.2 else wann), satz]
 
     return [["", ""] if r.random() < 0.1 else zeile() for _ in range(r.randint(1, 5))]
 
 
 def sparplan(r, form):
     anfang = tag(r)
-    rate = spaeter(r, anfang) if r.random() < 0.9 else tag(r)
-    ende = rate + timedelta(days=r.choice([1, 365, 366, 3653, r.randint(1, 9000), r.randint(-300, 700)]))
+    rate = spaeter(r, anfang) if r.random() < 0.95 else tag(r)
+    laufzeiten = [1, 365, 366, 3653, r.randint(1, 9000), r.randint(1, 9000), r.randint(-300, 700)]
+    ende = rate + timedelta(days=r.choice(laufzeiten))
     felder = listen(r, Combo1=4, Combo2=4, Combo4=5, Combo5=3)
     felder.update(Anfdatum=datumstext(anfang), ratdatum1=datumstext(rate), Check1=int(r.random() < 0.35))
     if form != "Form96000":
@@ -153,14 +156,13 @@ def sparplan(r, form):
         felder["Betrag"] = betrag(r)
     if form != "Form92000":
         felder["Zins"] = zins(r)
-    ziel = kommazahl(r.uniform(1, 60) ** r.choice([2, 3]))
     if form == "Form92000":
         felder.update(ertragsplan(r, felder["Combo1"], anfang, ende))
     elif form != "Form90000":
-        felder["Vwert"] = r.choice([ziel] * 5 + ["", "0", "-2000"])
+        felder["Vwert"] = r.choice([kommazahl(r.uniform(5, 60) ** r.choice([2, 3]))] * 6 + ["", "0", "-2000"])
     if r.random() < 0.55:
         felder.update(dynamisierung(r, form))
-    return felder, anfang
+    return felder, anfang, ende
 
 
 def ertragsplan(r, rhythmus, anfang, ende):
@@ -172,16 +174,24 @@ def ertragsplan(r, rhythmus, anfang, ende):
 
 
 def sparen(r, form):
-    felder, anfang = sparplan(r, form)
+    felder, anfang, ende = sparplan(r, form)
     if r.random() < 0.1:
         feld = r.choice([name for name, wert in felder.items() if isinstance(wert, str)])
         felder[feld] = r.choice(UNSINN)
     auftrag = {"Form": form, "Felder": felder}
     if form in ("Form90000", "Form94000", "Form99000") and r.random() < 0.4:
-        auftrag["Zinstabelle"] = zinstabelle(r, anfang)
+        auftrag["Zinstabelle"] = zinstabelle(r, anfang, ende)
     if form == "Form96000":
         auftrag["Command6"] = r.choice(["%", "€"])
+        if r.random() < 0.3:
+            sprungziel(r, felder)
     return auftrag
+
+
+def sprungziel(r, felder):
+    """A target that lies inside the jump of a yearly rate."""
+    felder.update({"Combo1": 4, "AnfVermögen": "0", "Betrag": "1000", "Zins": "1", "Check2": 0})
+    felder["Vwert"] = str(r.randint(2, 9) * 1000 + 500)
 
 
 def kurz(r):
