@@ -255,6 +255,9 @@ class BerichtstextTest : public QObject {
                                   << "Jahr / Zins 3,5 % 4 % 4,5 % 5 % 5,5 %";
         QTest::newRow("ohne Kopf") << "6"
                                    << "Zahlungsweise: Jährlich vorschüssig";
+        // At four points: one more is refused.
+        QTest::newRow("so viele, wie passen") << "20,5"
+                                              << "Zahlungsweise: Jährlich vorschüssig";
     }
     void faktortabelle() {
         QFETCH(QString, bis);

@@ -86,11 +86,11 @@ void Seitenmaler::KopfseiteMalen(QPainter& maler, const Berichtsseite& seite, do
 
 void Seitenmaler::TitelMalen(QPainter& maler, double p) const {
     maler.setPen(tinte);
-    Schriftlauf lauf(kopfschrift_, maler, layout_.tabellenfaktor * p);
-    double hoehe = grundlinie * layout_.kopfzeile;
+    Schriftlauf lauf(kopfblockschrift_, maler, layout_.kopfblockfaktor * p);
+    double hoehe = grundlinie * layout_.kopfblockzeile;
     for (const std::string& zeile : layout_.titel) {
         lauf.Links(QPointF(0, hoehe * p), zeile);
-        hoehe += layout_.kopfzeile;
+        hoehe += layout_.kopfblockzeile;
     }
     lauf.Zeichnen();
 }

@@ -57,7 +57,7 @@ struct Bericht {
     /// The lines of the head pages, in columns of single characters.
     std::vector<std::string> kopfblock;
     Berichtsschrift kopfblockschrift{.name = "Courier New", .punkte = 10};
-    /// Lines above the table on its first page.
+    /// Lines above the table on its first page, in the font of the head pages.
     std::vector<std::string> titelzeilen;
     /// The line above the table's header on every page; empty: none.
     std::string seitenzeile;

@@ -21,14 +21,15 @@ std::string Punkte(int twips) {
 }
 
 /// A font as a rule of the style sheet. Of its name counts what a quoted text holds without escapes.
-std::string Schriftregel(const Berichtsschrift& schrift, std::string_view ersatz) {
+std::string Schriftregel(const Berichtsschrift& schrift) {
     std::string name = schrift.name;
     std::erase_if(name, [](char zeichen) {
         return static_cast<unsigned char>(zeichen) < ' ' ||
                std::string_view("\"\\<>&").find(zeichen) != std::string_view::npos;
     });
+    const bool schreibmaschine = name.find("Courier") != std::string::npos;
     return (schrift.fett ? "font: bold " : "font: ") + Dezimal(schrift.punkte) + "pt \"" + name + "\", " +
-           std::string(ersatz);
+           (schreibmaschine ? "monospace" : "sans-serif");
 }
 
 /// The look: on paper as the report tells, on the screen light or dark as the reader has it.
@@ -40,18 +41,17 @@ std::string Stilvorlage(const Bericht& bericht, int tabellenbreite) {
            "; }\n"
            "body { margin: 1.5rem; }\n"
            "pre { margin: 0 0 1.5rem; " +
-           Schriftregel(bericht.kopfblockschrift, "monospace") +
+           Schriftregel(bericht.kopfblockschrift) +
            "; }\n"
            "table { table-layout: fixed; width: " +
-           Punkte(tabellenbreite) + "; border-collapse: collapse; " +
-           Schriftregel(tabelle.schrift, "sans-serif") +
+           Punkte(tabellenbreite) + "; border-collapse: collapse; " + Schriftregel(tabelle.schrift) +
            "; font-variant-numeric: tabular-nums; }\n"
            "thead { display: table-header-group; position: sticky; top: 0; background: Canvas; }\n"
            "th { " +
-           Schriftregel(tabelle.kopfschrift, "sans-serif") +
+           Schriftregel(tabelle.kopfschrift) +
            "; text-align: center; vertical-align: bottom; border-bottom: 0.75pt solid; }\n"
            "caption { " +
-           Schriftregel(tabelle.kopfschrift, "sans-serif") +
+           Schriftregel(bericht.kopfblockschrift) +
            "; text-align: left; padding: 1pt 2pt; white-space: pre-wrap; }\n"
            "th.seitenzeile { text-align: left; border: 0; }\n"
            "th, td { padding: 1pt 2pt; white-space: pre-wrap; overflow-wrap: anywhere; }\n"

@@ -136,15 +136,16 @@ std::string Tabellenkopf(const Bericht& bericht, const std::string& schrift, con
 
 /// The table stands in a section of its own. Its header is a part of the table on the first page and a page
 /// header on the others: not every word processor repeats the rows that are marked for it.
-void Tabellenabschnitt(std::string& rtf, const Bericht& bericht, const std::string& schrift,
+void Tabellenabschnitt(std::string& rtf, const Bericht& bericht, const Schriftentafel& schriften,
                        const std::vector<int>& kanten) {
+    const std::string schrift = schriften.Wahl(bericht.tabelle.kopfschrift);
     if (!bericht.kopfblock.empty()) rtf += "\\sect";
     Abschnittsanfang(rtf, bericht);
     rtf.append("\\sbkpage\\titlepg\\headery").append(std::to_string(bericht.rand)).append("{\\header");
     rtf.append(zeilenende).append(Tabellenkopf(bericht, schrift, kanten, "\\trkeep\\trhdr"));
     rtf.append(schlussabsatz).append("}").append(zeilenende);
     for (const std::string& zeile : bericht.titelzeilen)
-        Kopflinie(rtf, zeile, schrift, kanten, "\\trkeep");
+        Kopflinie(rtf, zeile, schriften.Wahl(bericht.kopfblockschrift), kanten, "\\trkeep");
     rtf += Tabellenkopf(bericht, schrift, kanten, "\\trkeep");
 }
 
@@ -153,7 +154,7 @@ bool Tabelle(Berichtsstrom& strom, const Bericht& bericht, const Schriftentafel&
     const Berichtstabelle& tabelle = bericht.tabelle;
     const std::vector<int> kanten = Spaltenkanten(bericht);
     std::string& rtf = strom.Text();
-    Tabellenabschnitt(rtf, bericht, schriften.Wahl(tabelle.kopfschrift), kanten);
+    Tabellenabschnitt(rtf, bericht, schriften, kanten);
     const std::string anfang =
         Zeilenanfang(kanten, "\\trkeep", "") + "\\qr" + schriften.Wahl(tabelle.schrift);
     for (std::size_t zeile = 0; zeile < tabelle.zeilen; ++zeile) {

@@ -94,25 +94,21 @@ void SpaltenLegen(Seitenlayout& layout, const Berichtstabelle& tabelle,
         layout.kanten.push_back(static_cast<int>(std::lround(kante += breite)));
 }
 
-/// What lines of the header's font take above the header.
-int Hoehe(const Seitenlayout& layout, const std::vector<std::string>& zeilen) {
-    return static_cast<int>(zeilen.size()) * layout.kopfzeile + 2 * layout.zellabstand;
-}
-
 void TitelLegen(Seitenlayout& layout, const Bericht& bericht, const Textmass& mass) {
     if (bericht.titelzeilen.empty()) return;
     for (const std::string& zeile : bericht.titelzeilen)
-        std::ranges::move(mass.InZeilen(zeile, Textplatz(layout) / layout.tabellenfaktor),
+        std::ranges::move(mass.InZeilen(zeile, Textplatz(layout) / layout.kopfblockfaktor),
                           std::back_inserter(layout.titel));
-    layout.titelhoehe = Hoehe(layout, layout.titel);
+    layout.titelhoehe =
+        static_cast<int>(layout.titel.size()) * layout.kopfblockzeile + 2 * layout.zellabstand;
 }
 
 void KopfLegen(Seitenlayout& layout, const Bericht& bericht, const Textmass& mass) {
     layout.kopfzeile = Anteil(bericht.tabelle.kopfschrift, layout.tabellenfaktor, zeilenhoehe);
-    TitelLegen(layout, bericht, mass);
     if (!bericht.seitenzeile.empty()) {
         layout.seitenzeile = mass.InZeilen(bericht.seitenzeile, Textplatz(layout) / layout.tabellenfaktor);
-        layout.seitenzeilenhoehe = Hoehe(layout, layout.seitenzeile);
+        layout.seitenzeilenhoehe =
+            static_cast<int>(layout.seitenzeile.size()) * layout.kopfzeile + 2 * layout.zellabstand;
     }
     std::size_t zeilen = 1;
     for (std::size_t spalte = 0; spalte < bericht.tabelle.spalten.size(); ++spalte) {
@@ -180,6 +176,8 @@ void TabelleLegen(Seitenlayout& layout, const Bericht& bericht, const Zeichenmas
     SpaltenLegen(layout, tabelle, bedarf);
     layout.tabellenzeile = Anteil(tabelle.schrift, layout.tabellenfaktor, zeilenhoehe);
     layout.zellabstand = Anteil(tabelle.schrift, layout.tabellenfaktor, hoehenrandDerZelle);
+    TitelLegen(layout, bericht,
+               Textmass([&](char32_t zeichen) { return mass(Schriftrolle::kopfblock, zeichen); }));
     KopfLegen(layout, bericht, kopf);
     ZeilenVerteilen(layout, tabelle.zeilen, Zeilenhoehen(layout, tabelle, zelle, bedarf));
 }

@@ -12,7 +12,8 @@
 
 namespace zinfolio {
 
-/// What a text of a report is drawn as: a line of the head pages, a header (or the line above it), a cell.
+/// What a text of a report is drawn as: a line of the head pages or of the title, a header (or the line above
+/// it), a cell.
 enum class Schriftrolle { kopfblock, kopf, zelle };
 
 /// The advance of a character in twips, in the font of a role at the size that the report names.

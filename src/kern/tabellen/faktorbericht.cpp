@@ -1,5 +1,6 @@
 #include "kern/tabellen/faktorbericht.h"
 
+#include <algorithm>
 #include <string_view>
 #include <utility>
 
@@ -13,8 +14,12 @@ namespace {
 constexpr double kopfblockbreite = 5.8 * twipsJeZoll;
 constexpr double zeichenbreite = 100;
 constexpr std::size_t meisteKopfspalten = 6;
-/// At four points, the smallest type of a report, its narrowest columns fill the page.
-constexpr std::size_t meisteSeitenspalten = 35;
+/// What a page holds at four points, the smallest type of a report: twips between its margins, and what each
+/// column and each character needs of them.
+constexpr double seitenbreite = 15838;
+constexpr double spaltenrand = 48;
+constexpr double zifferbreite = 44.5;
+constexpr double satzzeichenbreite = 22.3;
 constexpr std::string_view jahresspalte = "^+1.0in";
 constexpr std::string_view satzspalte = "|^1.6in";
 
@@ -28,6 +33,35 @@ std::string Zahlungsweise(const Faktorwahl& wahl) {
     std::string zeile = "Zahlungsweise: ";
     zeile.append(rentenrhythmen.at(static_cast<std::size_t>(wahl.rhythmus))).append(" ");
     return zeile.append(rentenfaelligkeiten.at(static_cast<std::size_t>(wahl.faelligkeit)));
+}
+
+double Textbreite(std::string_view text) {
+    double breite = 0;
+    for (const char zeichen : text)
+        breite += zeichen == ',' || zeichen == '.' ? satzzeichenbreite : zifferbreite;
+    return breite;
+}
+
+/// What a column of rates needs for its longest factors, the least and the largest one.
+double Spaltenbedarf(const Faktortabelle& tabelle, std::size_t spalte) {
+    std::size_t kleinster = 1;
+    std::size_t groesster = 1;
+    for (std::size_t zeile = 2; zeile < tabelle.Zeilen(); ++zeile) {
+        if (tabelle.Wert(zeile, spalte) < tabelle.Wert(kleinster, spalte)) kleinster = zeile;
+        if (tabelle.Wert(zeile, spalte) > tabelle.Wert(groesster, spalte)) groesster = zeile;
+    }
+    return spaltenrand + std::max(Textbreite(tabelle.Zelle(kleinster, spalte)),
+                                  Textbreite(tabelle.Zelle(groesster, spalte)));
+}
+
+/// How many columns of rates fit on a page, beside that of the years; a single one is printed in any case.
+std::size_t PassendeSaetze(const Faktortabelle& tabelle) {
+    double platz = seitenbreite - spaltenrand - Textbreite(tabelle.Zelle(tabelle.Zeilen() - 1, 0));
+    for (std::size_t spalte = 1; spalte < tabelle.Spalten(); ++spalte) {
+        platz -= Spaltenbedarf(tabelle, spalte);
+        if (platz < 0) return std::max<std::size_t>(spalte - 1, 1);
+    }
+    return tabelle.Spalten() - 1;
 }
 
 Berichtstabelle Tabelle(std::shared_ptr<const Faktortabelle> tabelle) {
@@ -45,12 +79,14 @@ Berichtstabelle Tabelle(std::shared_ptr<const Faktortabelle> tabelle) {
 }  // namespace
 
 std::optional<Ablehnung> FaktortabellenberichtPruefen(const Faktortabelle& tabelle) {
-    if (tabelle.Spalten() <= meisteSeitenspalten) return std::nullopt;
-    return Ablehnung{
-        "Die Tabelle hat " + std::to_string(tabelle.Spalten() - 1) +
-            " Zinssätze. Auf eine Seite passen höchstens " + std::to_string(meisteSeitenspalten - 1) +
-            ". Bitte wählen Sie zum Drucken einen kleineren Bereich oder eine größere Schrittweite.",
-        "Pro2", ""};
+    if (tabelle.Leer()) return std::nullopt;
+    const std::size_t passend = PassendeSaetze(tabelle);
+    if (passend + 1 == tabelle.Spalten()) return std::nullopt;
+    return Ablehnung{"Die Tabelle hat " + std::to_string(tabelle.Spalten() - 1) +
+                         " Zinssätze. Auf eine Seite passen höchstens " + std::to_string(passend) +
+                         ". Bitte wählen Sie zum Drucken einen kleineren Bereich oder eine größere "
+                         "Schrittweite.",
+                     "Pro2", ""};
 }
 
 Bericht FaktortabellenberichtBilden(const Faktorwahl& wahl, std::shared_ptr<const Faktortabelle> tabelle) {

@@ -64,9 +64,9 @@ TEST(RtfBericht, DerTitelStehtEinmalUeberDerTabelle) {
     bericht.titelzeilen = {"Barwert   {ü}", "Zins : 7 %"};
     EXPECT_THAT(RtfBericht(bericht),
                 HasSubstr("\\pard\\plain\\fs2\\par}\r\n"
-                          "\\trowd\\trgaph30\\trkeep\\cellx4320\\pard\\plain\\intbl\\ql\\f0\\fs20\\b "
+                          "\\trowd\\trgaph30\\trkeep\\cellx4320\\pard\\plain\\intbl\\ql\\f1\\fs20 "
                           "Barwert   \\{\\'fc\\}\\cell\\row\r\n"
-                          "\\trowd\\trgaph30\\trkeep\\cellx4320\\pard\\plain\\intbl\\ql\\f0\\fs20\\b "
+                          "\\trowd\\trgaph30\\trkeep\\cellx4320\\pard\\plain\\intbl\\ql\\f1\\fs20 "
                           "Zins : 7 %\\cell\\row\r\n"
                           "\\trowd\\trgaph30\\trkeep\\clvertalb"));
     EXPECT_THAT(RtfBericht(bericht), HasSubstr("{\\header\r\n\\trowd\\trgaph30\\trkeep\\trhdr\\clvertalb"));

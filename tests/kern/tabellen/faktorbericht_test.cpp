@@ -71,19 +71,37 @@ TEST(Faktortabellenbericht, OhneTabelleBleibtDerKopfblock) {
     EXPECT_TRUE(FaktortabellenberichtBilden(wahl, std::make_shared<Faktortabelle>()).tabelle.spalten.empty());
 }
 
+/// What the user is told who wants to print a table from the first year on, at whole rates.
+std::string Abgelehnt(Finanzfaktor faktor, const char* von, const char* bis, const char* jahre) {
+    Faktortabelle tabelle;
+    const Faktorwahl jaehrlich{faktor, Rentenrhythmus::jaehrlich, Rentenfaelligkeit::nachschuessig};
+    EXPECT_EQ(FaktortabelleRechnen({jaehrlich, Schrittweite::ganz, von, bis, "1", jahre}, tabelle),
+              std::nullopt);
+    const auto ablehnung = FaktortabellenberichtPruefen(tabelle);
+    EXPECT_EQ(ablehnung ? ablehnung->Feld : "Pro2", "Pro2");
+    return ablehnung ? ablehnung->Meldung : "";
+}
+
+std::string ZuViele(const char* saetze, const char* hoechstens) {
+    return std::string("Die Tabelle hat ") + saetze + " Zinssätze. Auf eine Seite passen höchstens " +
+           hoechstens +
+           ". Bitte wählen Sie zum Drucken einen kleineren Bereich oder eine größere Schrittweite.";
+}
+
+// In twips at four points: 44.5 a digit, 22.3 a comma or point, 48 around a column, 92.5 for the years.
 TEST(Faktortabellenbericht, WasAufKeineSeitePasstWirdAbgelehnt) {
-    const auto tabelle = [](const char* bis) {
-        Faktortabelle t;
-        EXPECT_EQ(FaktortabelleRechnen({wahl, Schrittweite::ganz, "1", bis, "1", "1"}, t), std::nullopt);
-        return t;
-    };
-    EXPECT_EQ(FaktortabellenberichtPruefen(tabelle("34")), std::nullopt);
-    EXPECT_EQ(
-        FaktortabellenberichtPruefen(tabelle("35")),
-        (Ablehnung{
-            "Die Tabelle hat 35 Zinssätze. Auf eine Seite passen höchstens 34. Bitte wählen Sie zum Drucken "
-            "einen kleineren Bereich oder eine größere Schrittweite.",
-            "Pro2", ""}));
+    // "0,9900990" needs 426.3, of which 36 fit into 15 838 - 92.5.
+    EXPECT_EQ(Abgelehnt(Finanzfaktor::AbF, "1", "36", "1"), "");
+    EXPECT_EQ(Abgelehnt(Finanzfaktor::AbF, "1", "37", "1"), ZuViele("37", "36"));
+    // "1.003,0030010" needs 582.1, of which 27 fit.
+    EXPECT_EQ(Abgelehnt(Finanzfaktor::AuF, "900", "926", "3"), "");
+    EXPECT_EQ(Abgelehnt(Finanzfaktor::AuF, "900", "927", "3"), ZuViele("28", "27"));
+}
+
+TEST(Faktortabellenbericht, EinEinzelnerSatzWirdImmerGedruckt) {
+    // 10^308, with more digits than a page is wide.
+    EXPECT_EQ(Abgelehnt(Finanzfaktor::AuF, "900", "900", "308"), "");
+    EXPECT_EQ(FaktortabellenberichtPruefen(Faktortabelle()), std::nullopt);
 }
 
 TEST(Einzelfaktorbericht, LaesstDieLeerzeichenDesSatzesStehen) {
