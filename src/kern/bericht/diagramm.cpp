@@ -19,6 +19,16 @@ Zeilen Textwechsel(std::span<const std::string> texte, std::size_t erste, std::s
     return zeilen;
 }
 
+/// Whether one text holds for more than three quarters of the rows.
+bool EinTextUeberwiegt(const Zeilen& wechsel, std::size_t erste, std::size_t letzte) {
+    std::size_t laengster = 0;
+    for (std::size_t i = 0; i < wechsel.size(); ++i) {
+        const std::size_t ende = i + 1 < wechsel.size() ? wechsel[i + 1] : letzte + 1;
+        laengster = std::max(laengster, ende - wechsel[i]);
+    }
+    return laengster * 4 > (letzte - erste + 1) * 3;
+}
+
 /// The place of the first row whose number is a multiple of `schritt`; 0 where there is none.
 std::size_t RunderAnfang(std::span<const std::string> texte, const Zeilen& zeilen, std::size_t schritt) {
     const std::size_t bis = std::min(schritt, zeilen.size());
@@ -78,7 +88,8 @@ std::string Jahrestext(std::string_view datumstext) {
 std::vector<std::size_t> BeschrifteteZeilen(std::span<const std::string> texte, std::size_t erste,
                                             std::size_t letzte, std::size_t abstand) {
     const Zeilen wechsel = Textwechsel(texte, erste, letzte);
-    if (abstand > 1 && wechsel.size() > 1) return AusgewaehlteWechsel(texte, wechsel, abstand);
+    if (abstand > 1 && !EinTextUeberwiegt(wechsel, erste, letzte))
+        return AusgewaehlteWechsel(texte, wechsel, abstand);
     Zeilen zeilen;
     for (std::size_t i = erste; i <= letzte; i += abstand)
         zeilen.push_back(i);

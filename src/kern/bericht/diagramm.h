@@ -65,6 +65,7 @@ inline constexpr std::string_view diagrammBrauchtZweiZeilen =
 /// The rows from `erste` to `letzte` that get their label where two labels must be at least `abstand` rows
 /// apart: all of them where that much room is, else the rows at which the text changes (the years' first
 /// rows), else every second, fifth, tenth and so on of these, round years if the texts begin with numbers.
+/// Where one text holds for nearly all rows, it repeats at equal distances.
 /// REQUIRES: `abstand` is at least 1 and `letzte` a row.
 [[nodiscard]] std::vector<std::size_t> BeschrifteteZeilen(std::span<const std::string> texte,
                                                           std::size_t erste, std::size_t letzte,

@@ -94,6 +94,14 @@ TEST(BeschrifteteZeilen, EinEinzigesJahrWiederholtSich) {
     EXPECT_THAT(BeschrifteteZeilen(Jahre(2025, 1, 100), 0, 99, 30), ElementsAre(0, 30, 60, 90));
 }
 
+TEST(BeschrifteteZeilen, EinTextFastAllerZeilenWiederholtSich) {
+    Texte texte(29, "31.12");
+    texte.emplace_back("28.12");
+    EXPECT_THAT(BeschrifteteZeilen(texte, 0, 29, 4), ElementsAre(0, 4, 8, 12, 16, 20, 24, 28));
+    // Three quarters are not nearly all.
+    EXPECT_THAT(BeschrifteteZeilen(texte, 26, 29, 2), ElementsAre(26, 29));
+}
+
 TEST(BeschrifteteZeilen, AusschnittBeginntMitSeinerErstenZeile) {
     EXPECT_THAT(BeschrifteteZeilen(Jahre(2020, 5, 12), 6, 30, 4), ElementsAre(6, 12, 24));
     EXPECT_THAT(BeschrifteteZeilen(Jahre(2020, 5, 12), 7, 7, 1), ElementsAre(7));
