@@ -2,9 +2,12 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <QPlainTextEdit>
+#include <QTimer>
 
 #include "fenster/allround/form61000.h"
-#include "fenster/formhelfer.h"
+#include "fenster/ausgabe/form34.h"
+#include "fenster/kontoformular.h"
 #include "fenster/pdfhelfer.h"
 #include "fenster/sparen/sparrechner.h"
 #include "fenster/tabellen/form14005.h"
@@ -49,9 +52,16 @@ struct Druckweg {
     const char* gitter;
     const char* drucken;
     const char* exportieren;
+    const char* filter = "Ratenspardateien (*.pdf) |*.pdf";
 };
 
 constexpr Druckweg spardruck{"Grid", "Command8", "Command9"};
+constexpr Druckweg kontodruck{"Grid", "Command13", "Command12"};
+
+/// The calculator whose save dialogs have a filter of their own.
+constexpr Druckweg Allrounddruck(const char* gitter, const char* drucken) {
+    return {gitter, drucken, "Command9", "*.pdf |*.pdf"};
+}
 
 /// Prints into a PDF file, and gives the text of its pages.
 QStringList Gedruckt(QWidget& form, const Druckweg& weg) {
@@ -60,6 +70,7 @@ QStringList Gedruckt(QWidget& form, const Druckweg& weg) {
     Klicke(form, weg.drucken);
     WaehleIn(form, "Combo18", 1);
     Klicke(form, weg.exportieren);
+    [&] { QCOMPARE(wahl.fragen.at(0).filter, weg.filter); }();
     return Seitentexte(ablage.Pfad() / "Bericht.pdf");
 }
 
@@ -111,22 +122,27 @@ class BerichtstextTest : public QObject {
                 "Gesamtzinsen " + Text(form, "Geszins"), "Endvermögen " + Text(form, "EV")};
     }
 
-    /// Calculates and compares the reports of all four views.
-    template <class Form>
-    static void AlleAnsichten(Form& form, QStringList kopf) {
+    /// Compares the reports of all four views of a statement.
+    static void AlleAnsichten(QWidget& form, const char* liste, const Druckweg& weg, const char* zurueck,
+                              const QStringList& kopf) {
+        for (int ansicht = 0; ansicht < 4; ++ansicht) {
+            WaehleIn(form, liste, ansicht);
+            const QStringList gitter = Gitterzeilen(form, weg.gitter);
+            QVERIFY(gitter.size() > 40);
+            Vergleiche(gitter, Gedruckt(form, weg), kopf);
+            if (QTest::currentTestFailed()) return;
+            Klicke(form, zurueck);
+        }
+    }
+
+    /// Calculates a plan and compares its reports.
+    static void PlanVergleichen(QWidget& form, QStringList kopf) {
         Waehle(form, 1);
         QCOMPARE(Finde<QTabWidget>(&form, "TabStrip1")->currentIndex(), 1);
         kopf += Ergebniszeilen(form);
         if (const QString ezins = Text(form, "ezins"); !ezins.isEmpty())
             kopf << "Effektivzinssatz " + ezins + " %";
-        for (int ansicht = 0; ansicht < 4; ++ansicht) {
-            WaehleIn(form, "Combo6", ansicht);
-            const QStringList gitter = Gitterzeilen(form, "Grid");
-            QVERIFY(gitter.size() > 40);
-            Vergleiche(gitter, Gedruckt(form, spardruck), kopf);
-            if (QTest::currentTestFailed()) return;
-            Klicke(form, "Command10");
-        }
+        AlleAnsichten(form, "Combo6", spardruck, "Command10", kopf);
     }
 
     static void Zahle(Form61000& form, const char* datum, const char* betrag, const char* anzahl = "1") {
@@ -160,7 +176,7 @@ class BerichtstextTest : public QObject {
         Fuelle(*stand.form, "Enddatum", "31.12.2024");
         kopf << "am Datum 15.01.2021"
              << "Berechnen bis Datum 31.12.2024";
-        AlleAnsichten(*stand.form, kopf);
+        PlanVergleichen(*stand.form, kopf);
     }
 
     void sparrate() {
@@ -171,7 +187,7 @@ class BerichtstextTest : public QObject {
         kopf << "am Datum 15.01.2021"
              << "Vermögensendwert 2500000"
              << "am Datum 31.12.2024";
-        AlleAnsichten(*stand.form, kopf);
+        PlanVergleichen(*stand.form, kopf);
     }
 
     void rendite() {
@@ -182,7 +198,7 @@ class BerichtstextTest : public QObject {
         Waehle(*stand.form, 1);
         kopf << "Nominalzins " + Text(*stand.form, "Nzins") + " %";
         Waehle(*stand.form, 0);
-        AlleAnsichten(*stand.form, kopf);
+        PlanVergleichen(*stand.form, kopf);
     }
 
     void anspardauer() {
@@ -190,7 +206,43 @@ class BerichtstextTest : public QObject {
         QStringList kopf = Fuelleplan(*stand.form);
         Fuelle(*stand.form, "Vwert", "1300000");
         kopf << "Endvermögen 1300000";
-        AlleAnsichten(*stand.form, kopf);
+        PlanVergleichen(*stand.form, kopf);
+    }
+
+    void anspardauerNenntDenEffektivzinsErstWennErGerechnetIst() {
+        Pruefstand<Form96000> stand;
+        Fuelleplan(*stand.form);
+        Fuelle(*stand.form, "Vwert", "1300000");
+        Waehle(*stand.form, 1);
+        QVERIFY(!Gedruckt(*stand.form, spardruck)[0].contains("Effektivzinssatz"));
+        Klicke(*stand.form, "Command10");
+        Klicke(*stand.form, "Effzins");
+        const QStringList zeilen = Berichtszeilen(Gedruckt(*stand.form, spardruck));
+        QVERIFY(zeilen.contains("Effektivzinssatzberechnungsmethode PAngV2000"));
+        QVERIFY(zeilen.contains("Effektivzinssatz " + Text(*stand.form, "ezins") + "%"));
+    }
+
+    void anspardauerAlsTextImBetrachter() {
+        Pruefstand<Form96000> stand;
+        const QStringList felder = Fuelleplan(*stand.form);
+        Fuelle(*stand.form, "Vwert", "1300000");
+        Waehle(*stand.form, 1);
+        const QStringList gitter = Gitterzeilen(*stand.form, "Grid");
+        QString text;
+        QTimer::singleShot(0, [&] {
+            auto* betrachter = qobject_cast<Form34*>(QApplication::activeModalWidget());
+            text = Finde<QPlainTextEdit>(betrachter, "R")->toPlainText();
+            betrachter->close();
+        });
+        Klicke(*stand.form, "Drucken");
+        QVERIFY2(text.startsWith("\n\nAnspardauer beim Ratensparen\n\n\nEingabedaten :\n"), qPrintable(text));
+        const QStringList teile = text.split(
+            "Datum              Vorgang        Zahlungsbetrag               Zinsen           Kontostand\n");
+        QCOMPARE(teile.size(), 2);
+        QVERIFY(Berichtszeilen({teile[0]}).contains("Ergebnisse :"));
+        for (const QString& zeile : felder + Ergebniszeilen(*stand.form))
+            QVERIFY2(Berichtszeilen({teile[0]}).contains(zeile), qPrintable(zeile));
+        QCOMPARE(Berichtszeilen({teile[1].section("\n \n", 0, 0)}), gitter);
     }
 
     void anfangskapital() {
@@ -201,7 +253,29 @@ class BerichtstextTest : public QObject {
         Waehle(*stand.form, 1);
         kopf << "Anfangskapital " + Text(*stand.form, "Loesung") << "Datum Anfangskapital 31.01.2021";
         Waehle(*stand.form, 0);
-        AlleAnsichten(*stand.form, kopf);
+        PlanVergleichen(*stand.form, kopf);
+    }
+
+    void kontoauszugUndHerleitung() {
+        Pruefstand<Form48000> stand;
+        Form48000& form = *stand.form;
+        Zahlung(form, "31.12.2006", "-98765432,1", "Saldo");
+        Fuelle(form, "Ratzahl", "48");
+        Zahlung(form, "31.01.2007", "2345678,9", "Rate <5 & {mehr}>");
+        Klicke(form, "Command3");
+        Kondition(form);
+        Waehle(form, Form48000::zinsverrechnung);
+        Fuelle(form, "Kontodatum", "31.12.2010");
+        Waehle(form, Form48000::berechnung);
+        AlleAnsichten(
+            form, "Combo4", kontodruck, "Command11",
+            Ergebniszeilen(form) + QStringList{"Datum für Kontoabschluss/-berechnung 31.12.2010",
+                                               "31.12.2006 10,00000 % 0,00000 % 0,00000 % 0,00000 %"});
+        Klicke(form, "Command5");
+        const QStringList gitter = Gitterzeilen(form, "Grid1");
+        QCOMPARE(gitter.size(), 50);
+        const QStringList seiten = Gedruckt(form, {"Grid1", "EffzinsDrucken", "Command12"});
+        Vergleiche(gitter, seiten, {seiten[0].section('\n', 0, 0)});
     }
 
     void effektivzinsEinerReihe() {
@@ -209,7 +283,7 @@ class BerichtstextTest : public QObject {
         Investiere(*stand.form);
         Betritt(*stand.form, 1);
         const QString satz = Text(*stand.form, "Effzins");
-        Pruefe(*stand.form, {"Grid", "Drucken", "Command9"},
+        Pruefe(*stand.form, Allrounddruck("Grid", "Drucken"),
                {"Effektivzinssatz", "Zins : " + satz + "0 %", "Berechnung nach PAngV2000"});
     }
 
@@ -219,10 +293,10 @@ class BerichtstextTest : public QObject {
         Betritt(*stand.form, 2);
         Fuelle(*stand.form, "Abzins2", "7,125");
         Druecke(Qt::Key_Return);
-        Pruefe(*stand.form, {"Grid3", "Drucken1", "Command9"}, {"Barwert", "Zins : 7,125000 %"});
+        Pruefe(*stand.form, Allrounddruck("Grid3", "Drucken1"), {"Barwert", "Zins : 7,125000 %"});
         Klicke(*stand.form, "Command10");
         Betritt(*stand.form, 3);
-        Pruefe(*stand.form, {"Grid3", "Drucken1", "Command9"}, {"Vermögensendwert", "Zins : 7,125000 %"});
+        Pruefe(*stand.form, Allrounddruck("Grid3", "Drucken1"), {"Vermögensendwert", "Zins : 7,125000 %"});
     }
 
     void sensitivitaet() {
@@ -230,7 +304,7 @@ class BerichtstextTest : public QObject {
         Investiere(*stand.form);
         Betritt(*stand.form, 2);
         Klicke(*stand.form, "Command12");
-        Pruefe(*stand.form, {"Grid4", "Command14", "Command9"}, {"Amortisationsdauer(Dynamische)"});
+        Pruefe(*stand.form, Allrounddruck("Grid4", "Command14"), {"Amortisationsdauer(Dynamische)"});
     }
 
     void tilgungsplan() {
@@ -240,10 +314,10 @@ class BerichtstextTest : public QObject {
         const QStringList kopf{"Tilgungstabelle :", "Zinstermine : Monatsende",
                                "Nominalzins : " + Text(*stand.form, "nomzins"),
                                "Effektivzinssatz : " + Text(*stand.form, "effzinssatz")};
-        Pruefe(*stand.form, {"grid5", "Command19", "Command9"}, kopf);
+        Pruefe(*stand.form, Allrounddruck("grid5", "Command19"), kopf);
         Klicke(*stand.form, "Command10");
         WaehleIn(*stand.form, "Combo3", 1);
-        Pruefe(*stand.form, {"grid5", "Command19", "Command9"}, kopf);
+        Pruefe(*stand.form, Allrounddruck("grid5", "Command19"), kopf);
     }
 
     void faktortabelle_data() {
