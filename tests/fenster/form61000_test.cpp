@@ -442,7 +442,10 @@ class Form61000Test : public QObject {
         QTRY_COMPARE(Text("nomzins"), "11,84700 %");
         QVERIFY(!Sichtbar("Suchzeile"));
         WaehleIn("Combo6", 3);
+        // The rate of the plan before is not the one that is being searched for.
+        QVERIFY(!Finde<QWidget>(&Form(), "nomzins")->isEnabled());
         QTRY_COMPARE(Text("nomzins"), "12,01121 %");
+        QVERIFY(Finde<QWidget>(&Form(), "nomzins")->isEnabled());
         QCOMPARE(Gewaehlt(), static_cast<int>(plan));
     }
 

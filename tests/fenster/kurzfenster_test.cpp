@@ -68,6 +68,16 @@ class KurzfensterTest : public QObject {
         QCOMPARE(dauer.Ergebnis("Lauftage"), "261,00");
     }
 
+    void dasErsteFeldIstBeimOeffnenBereit() {
+        for (const auto& [form, feld] : {std::pair(Kurzform::Form4b, "rate"),
+                                         {Kurzform::Form5b, "Vendwert"},
+                                         {Kurzform::Form7b, "Vendwert"},
+                                         {Kurzform::Form8b, "Vendwert"}}) {
+            const Kurzstand stand(form);
+            QCOMPARE(Fokus(), feld);
+        }
+    }
+
     void allesStehtImBlickOhneRollen() {
         for (const Kurzrechner& rechner : AlleKurzrechner()) {
             Kurzstand stand(rechner.form);

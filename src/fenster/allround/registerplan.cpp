@@ -102,7 +102,8 @@ void RegisterPlan::Warten() {
 }
 
 void RegisterPlan::TastenFreigeben(bool frei) {
-    for (QWidget* element : std::initializer_list<QWidget*>{Command19_, Command20_, grid5_, Combo3_})
+    for (QWidget* element :
+         std::initializer_list<QWidget*>{Command19_, Command20_, grid5_, Combo3_, nomzins_, effzinssatz_})
         element->setEnabled(frei);
 }
 

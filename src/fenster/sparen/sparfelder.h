@@ -27,6 +27,9 @@ class Sparfelder : public QWidget {
     /// Shows a plan in all fields.
     void Zeigen(const Sparplan& plan);
 
+    /// Brings the focus to the first field.
+    void Anspringen() const { felder_.Fokussieren(form_.felder.front().feld->name); }
+
     /// Whether the plan holds rate changes (`Image1(1)`).
     void MarkeZeigen(bool sichtbar);
 

@@ -87,6 +87,7 @@ Sparrechner::Sparrechner(const Sparform& form, const std::filesystem::path& arbe
                 .befehle = {{"Auswertungen", "berechnen", "&Berechnen", "Den Sparplan berechnen",
                              QKeySequence(Qt::Key_F9), [this] { RegisterWaehlen(auszug_); },
                              Befehlszeile::Ort::leiste}}});
+    felder_->Anspringen();
 }
 
 Rechnerart Sparrechner::Art(const Sparform& form) {

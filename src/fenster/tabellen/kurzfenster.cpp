@@ -9,6 +9,7 @@
 #include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "fenster/ausgabe/form34.h"
 #include "fenster/ui/bausteine.h"
@@ -100,6 +101,8 @@ Kurzfenster::Kurzfenster(const Kurzrechner& rechner, std::filesystem::path arbei
     Zeigen({});
     Geschuetzt(this, [this] { Zeigen(KurzeingabeLesen(arbeitsordner_, rechner_)); });
     ErgebnisLeeren();
+    const auto erstes = std::ranges::find(rechner_.felder, false, &Kurzfeld::ergebnis);
+    felder_[Stelle(erstes->groesse)]->Anspringen();
 }
 
 void Kurzfenster::FelderAnlegen(Feldraster& raster) {
