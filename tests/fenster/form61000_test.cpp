@@ -317,6 +317,20 @@ class Form61000Test : public QObject {
         QVERIFY(!Sichtbar("StatAmor"));
     }
 
+    void barwertdatumNachDerLetztenZahlungLaesstNichtsUebrig() {
+        Investiere();
+        Betritt(barwert);
+        Fuelle(Form(), "BarwDatum", "1.1.2010");
+        Druecke(Qt::Key_Return);
+        QCOMPARE(Zeilen(Form(), "Grid3"), 0);
+        QCOMPARE(Text("Label14"), "0,00");
+        QCOMPARE(Text("Label12"), "Die Investition / Anlage ist nicht vorteilhaft.");
+        QVERIFY(!Sichtbar("StatAmor"));
+        Fuelle(Form(), "BarwDatum", "1.1.2005");
+        Druecke(Qt::Key_Return);
+        QCOMPARE(Text("Label14"), "32,27");
+    }
+
     void leererZinsRechnetErstBeimNaechstenBetretenMitDerVoreinstellung() {
         Investiere();
         Betritt(barwert);
@@ -481,6 +495,18 @@ class Form61000Test : public QObject {
         QCOMPARE(zeuge.texte,
                  QStringList{"Es gibt nur Ein- bzw. Auszahlungen. Daher existiert kein Tilgungsplan !"});
         QCOMPARE(Gewaehlt(), 0);
+    }
+
+    void zahlungenAnEinemTagHabenKeinenPlan() {
+        Zahle("01.01.2007", "1000");
+        Zahle("01.01.2007", "-1000");
+        Betritt(barwert);
+        const Zeuge zeuge;
+        Betritt(plan);
+        QCOMPARE(zeuge.texte, QStringList{"Ein Tilgungsplan konnte rechnerisch nicht ermittelt werden."});
+        QCOMPARE(zeuge.titel, QStringList{"OK"});
+        QCOMPARE(Gewaehlt(), static_cast<int>(barwert));
+        QVERIFY(Sichtbar("Grid3"));
     }
 
     void planDerStillScheitertSagtDassErKeinerIst() {

@@ -1,6 +1,7 @@
 // What each savings calculator refuses: the words, and the field that is ready to be typed over then.
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QLabel>
 
 #include "fenster/formhelfer.h"
@@ -10,12 +11,14 @@ using namespace zinfolio;
 
 namespace {
 
+/// Fields by their names with their texts; a box is ticked by "x", an entry of a list chosen by its number.
+using Angaben = std::vector<std::pair<const char*, const char*>>;
+
 /// A plan that can be calculated, and what is wrong with it.
 struct Fall {
     const char* name;
     Sparziel ziel;
-    /// Fields by their names with their texts; a box is ticked by "x".
-    std::vector<std::pair<const char*, const char*>> angaben;
+    Angaben angaben;
     const char* meldung;
     /// Empty: none.
     const char* feld;
@@ -103,11 +106,56 @@ const std::vector<Fall> faelle{
      "DynAnz"},
 };
 
+/// What only the calculation finds out, and the field that mends it.
+struct Fehlerfall {
+    const char* name;
+    Sparziel ziel;
+    Angaben angaben;
+    const char* feld;
+    const char* abhilfe;
+};
+
+const std::vector<Fehlerfall> fehlerfaelle{
+    {"90000 Buchstaben", endkapital, {{"Betrag", "abc"}}, "Betrag", "100"},
+    {"94000 keine Rate erreicht das Konto", sparrate, {{"ratdatum1", "1.1.2020"}}, "ratdatum1", "1.2.2007"},
+    {"96000 mehr Zeilen als eine Datei hat",
+     anspardauer,
+     {{"AnfVermögen", ""},
+      {"Anfdatum", "01.10.2003"},
+      {"ratdatum1", "01.10.2003"},
+      {"Betrag", "797,14"},
+      {"Vwert", "165908,47"},
+      {"Combo1", "4"},
+      {"Combo2", "4"},
+      {"Combo4", "0"}},
+     "Combo4",
+     "5"},
+    {"99000 leere Rate", anfangskapital, {{"Betrag", ""}}, "Betrag", "100"},
+};
+
 void Angeben(QWidget& form, const char* name, const char* text) {
-    if (auto* haken = form.findChild<QCheckBox*>(name))
-        haken->click();
-    else if (form.findChild<QLineEdit*>(name))
-        Fuelle(form, name, text);
+    if (auto* haken = form.findChild<QCheckBox*>(name)) return haken->click();
+    if (auto* liste = form.findChild<QComboBox*>(name)) return liste->setCurrentIndex(QString(text).toInt());
+    auto* feld = form.findChild<QLineEdit*>(name);
+    if (!feld) return;
+    // Letters come only from elsewhere.
+    if (QString(text) == "abc") return feld->setText(text);
+    Fuelle(form, name, text);
+}
+
+/// A plan of the form that can be calculated, changed by what is wrong with it.
+void PlanAngeben(QWidget& form, const Angaben& angaben) {
+    for (const auto& [name, text] : {std::pair("AnfVermögen", "1000"),
+                                     {"Anfdatum", "01.01.2007"},
+                                     {"ratdatum1", "01.02.2007"},
+                                     {"Betrag", "100"},
+                                     {"Enddatum", "31.12.2007"},
+                                     {"Zins", "3"},
+                                     {"Vwert", "5000"},
+                                     {"Vermendwert", "2200"}})
+        Angeben(form, name, text);
+    for (const auto& [name, text] : angaben)
+        Angeben(form, name, text);
 }
 
 }  // namespace
@@ -129,17 +177,7 @@ class SparmeldungenTest : public QObject {
         const Testordner ordner;
         Sparrechner form(SparformVon(fall.ziel), ordner.Pfad());
         Zeige(form);
-        for (const auto& [name, text] : {std::pair("AnfVermögen", "1000"),
-                                         {"Anfdatum", "01.01.2007"},
-                                         {"ratdatum1", "01.02.2007"},
-                                         {"Betrag", "100"},
-                                         {"Enddatum", "31.12.2007"},
-                                         {"Zins", "3"},
-                                         {"Vwert", "5000"},
-                                         {"Vermendwert", "2200"}})
-            Angeben(form, name, text);
-        for (const auto& [name, text] : fall.angaben)
-            Angeben(form, name, text);
+        PlanAngeben(form, fall.angaben);
         const Zeuge zeuge;
         QTest::keyClick(&form, Qt::Key_F9);
         QCOMPARE(zeuge.texte, QStringList{fall.meldung});
@@ -154,6 +192,36 @@ class SparmeldungenTest : public QObject {
         QVERIFY(feld->isEnabled());
         Tippe("1");
         QCOMPARE(feld->text(), "1");
+    }
+
+    void gibtDieAllgemeineMeldungUndBleibtBrauchbar_data() {
+        QTest::addColumn<int>("nummer");
+        for (int nummer = 0; nummer < static_cast<int>(fehlerfaelle.size()); ++nummer)
+            QTest::newRow(fehlerfaelle[static_cast<std::size_t>(nummer)].name) << nummer;
+    }
+
+    void gibtDieAllgemeineMeldungUndBleibtBrauchbar() {
+        QFETCH(int, nummer);
+        const Fehlerfall& fall = fehlerfaelle[static_cast<std::size_t>(nummer)];
+        UhrStellen(*Datum::Aus(2026, 11, 21));
+        const Testordner ordner;
+        Sparrechner form(SparformVon(fall.ziel), ordner.Pfad());
+        Zeige(form);
+        PlanAngeben(form, fall.angaben);
+        {
+            const Zeuge zeuge;
+            QTest::keyClick(&form, Qt::Key_F9);
+            QCOMPARE(
+                zeuge.texte,
+                QStringList{"Bitte überprüfen Sie Ihre Angaben. Diese sind offenbar unvollständig oder "
+                            "nicht in sich schlüssig und lassen daher die gewünschte Berechnung nicht zu."});
+            QCOMPARE(zeuge.titel, QStringList{"OK"});
+            QCOMPARE(Finde<QTabWidget>(&form, "TabStrip1")->currentIndex(), 0);
+        }
+        Angeben(form, fall.feld, fall.abhilfe);
+        QTest::keyClick(&form, Qt::Key_F9);
+        QCOMPARE(Finde<QTabWidget>(&form, "TabStrip1")->currentIndex(), 1);
+        QVERIFY(!Finde<QLabel>(&form, "EV")->text().isEmpty());
     }
 };
 
