@@ -32,6 +32,37 @@ std::vector<std::string> InAllenRhythmen(Finanzfaktor faktor, double prozent, do
     return texte;
 }
 
+TEST(Finanzfaktor, HeisstUndErklaertSichWortFuerWort) {
+    constexpr std::array<Finanzfaktortext, 6> erwartet{{
+        {"AuF Aufzinsungsfaktor (Kapitalendwert)",
+         "Zinst einen fälligen Geldbetrag mit Zins und Zinseszins auf einen nach n Perioden fälligen "
+         "Geldbetrag auf. Gibt an, wie viel eine Einmalzahlung 'jetzt' nach n Perioden wert ist."},
+        {"AbF Abzinsungsfaktor (Kapitalbarwert)",
+         "Zinst einen nach n Perioden fälligen Geldbetrag K(n) unter Berücksichtigung von Zins und "
+         "Zinseszins auf einen jetzt fälligen Geldbetrag K(0) ab."},
+        {"EWF Rentenendwertfaktor (Aufzinsungssummenfaktor)",
+         "Zinst alle Zahlungen einer Zahlungsreihe unter Berücksichtigung von Zins und Zinseszins auf und "
+         "addiert gleichzeitig die Endwerte (verwandelt die Zahlungsreihe in 'Einmalzahlung nach n "
+         "Perioden'."},
+        {"DSF Diskontierungssummenfaktor (Rentenbarwertfaktor)",
+         "Zinst alle Zahlungen einer Zahlungsreihe unter Berücksichtigung von Zins und Zinseszins ab und "
+         "addiert gleichzeitig die einzelnen Barwerte (verwandelt die Zahlungsreihe in 'Einmalzahlung "
+         "jetzt'."},
+        {"KWF Kapitalwiedergewinnungsfaktor (Annuitätenfaktor)",
+         "Verteilt einen jetzt fälligen Geldbetrag K(0) in gleich hohe Zahlungsbeträge einer Zahlungsreihe "
+         "über n Jahre unter Berücksichtigung von Zins und Zinseszins (verwandelt die Einmalzahlung 'jetzt' "
+         "in eine Zahlungsreihe)\""},
+        {"RVF Restwertverteilungsfaktor",
+         "Verteilt eine nach n Perioden fällige Einmalzahlung K(n) unter Berücksichtigung von Zins und "
+         "Zinseszins in eine Zahlungsreihe mit jeweils gleich hohen Geldbeträgen (verwandelt Einmalzahlung "
+         "nach n Perioden in Zahlungsreihe)"},
+    }};
+    for (std::size_t i = 0; i < erwartet.size(); ++i) {
+        EXPECT_EQ(finanzfaktoren[i].eintrag, erwartet[i].eintrag);
+        EXPECT_EQ(finanzfaktoren[i].erklaerung, erwartet[i].erklaerung);
+    }
+}
+
 TEST(Finanzfaktor, DieKlassischenFaktorenZahlenEinmalImJahrNachschuessig) {
     // 10 % over 10 years: (1,1^10 - 1) / 0,1, with 1,1^10 = 2,5937424601.
     EXPECT_NEAR(Faktorwert({Finanzfaktor::EWF, jaehrlich, nachschuessig}, 10, 10), 15.937424601, 1e-12);

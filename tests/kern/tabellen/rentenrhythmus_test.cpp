@@ -25,5 +25,13 @@ TEST(Rentenrhythmus, ZahlungenUndKonstantenDerTafel) {
     }
 }
 
+TEST(Rentenrhythmus, TexteDerListen) {
+    constexpr std::array<std::string_view, 6> rhythmen{"Monatlich",     "Alle 2 Monate", "Vierteljährlich",
+                                                       "Alle 4 Monate", "Halbjährlich",  "Jährlich"};
+    EXPECT_EQ(rentenrhythmen, rhythmen);
+    constexpr std::array<std::string_view, 2> faelligkeiten{"nachschüssig", "vorschüssig"};
+    EXPECT_EQ(rentenfaelligkeiten, faelligkeiten);
+}
+
 }  // namespace rentenrhythmus_test
 }  // namespace zinfolio
