@@ -13,7 +13,7 @@
 #include "fenster/ui/meldungsfenster.h"
 #include "fenster/ui/tabelle.h"
 #include "kern/allround/ansichten.h"
-#include "kern/dates/textteile.h"
+#include "kern/grund/utf8.h"
 
 namespace zinfolio {
 namespace {

@@ -25,7 +25,7 @@ class Planschreiber {
     explicit Planschreiber(std::vector<Staffelsatz>& ziel) : tableau(ziel) {}
 
     void Schreibe(std::int16_t art, std::string_view text, const Festtext<10>& datum, double betrag = 0) {
-        if (tableau.size() == HoechstzahlSaetze) throw Rechenfehler("Der Plan hat mehr als 32767 Zeilen.");
+        if (tableau.size() == HoechstzahlSaetze) throw Rechenfehler(UeberHoechstzahl("Zeilen des Plans"));
         Staffelsatz& satz = tableau.emplace_back();
         satz.Zahlungsart = art;
         satz.Zahlungstext = Festtext<25>::AusWindows1252(NachWindows1252(text));

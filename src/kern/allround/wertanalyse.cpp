@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "kern/allround/mischzins.h"
+#include "kern/dates/datumpruefen.h"
 #include "kern/dates/rundung.h"
 #include "kern/dates/textteile.h"
 #include "kern/dates/zahl.h"
@@ -140,7 +141,7 @@ std::optional<Ablehnung> WertAnalyse(std::span<const Staffelsatz> zahlungen, Wer
     if (eingabe.Abzins2.empty()) eingabe.Abzins2 = eingabe.Abzins;
     if (zahlungen.empty()) return OhneZahlungen(meldung::erstZahlungen);
     const std::string erstesDatum = NachUtf8(zahlungen.front().Satzdatum.Getrimmt());
-    if (Zeichenzahl(eingabe.BarwDatum) < 2) eingabe.BarwDatum = erstesDatum;
+    if (IstNochKeinDatum(eingabe.BarwDatum)) eingabe.BarwDatum = erstesDatum;
     const Datum barwertdatum = Datum::Lesen(eingabe.BarwDatum);
     ergebnis.Frame1 = eingabe.Anzeigeart != Wertart::barwert || erstesDatum == eingabe.BarwDatum;
     ergebnis.Tabelle = Zellentabelle(Koepfe(eingabe));

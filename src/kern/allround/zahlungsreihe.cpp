@@ -11,7 +11,7 @@ void ReiheSchreiben(std::span<const Staffelsatz> zahlungen, std::vector<Reihensa
     reihe.clear();
     reihe.reserve(zahlungen.size());
     for (const Staffelsatz& zahlung : zahlungen) {
-        if (reihe.size() == HoechstzahlSaetze) throw Rechenfehler("Mehr als 32767 Zahlungen.");
+        if (reihe.size() == HoechstzahlSaetze) throw Rechenfehler(UeberHoechstzahl("Zahlungen"));
         Reihensatz zeile = Reihenzeile(zahlung.Satzdatum.Roh(), zahlung.Zahlbetrag);
         zeile.Reihenschluessel = zahlung.Sortierschluessel;
         reihe.push_back(zeile);

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "kern/dates/textteile.h"
+#include "kern/grund/utf8.h"
 
 namespace zinfolio {
 namespace {

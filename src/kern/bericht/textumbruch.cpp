@@ -12,12 +12,6 @@ namespace {
 /// its column in the end.
 constexpr double toleranz = 4;
 
-Utf8Zeichen ErstesZeichen(std::string_view text) {
-    const auto byte = static_cast<unsigned char>(text.front());
-    if (byte < 0x80) return {byte, 1};
-    return Utf8Lesen(text).value_or(Utf8Zeichen{U'\uFFFD', 1});
-}
-
 /// The lines of one text while they grow.
 class Zeilenbau {
   public:
@@ -68,14 +62,12 @@ double Textmass::Vorschub(char32_t zeichen) const {
 Textbreiten Textmass::Messen(std::string_view text) const {
     Textbreiten breiten;
     double wort = 0;
-    while (!text.empty()) {
-        const auto [zeichen, laenge] = ErstesZeichen(text);
-        text.remove_prefix(laenge);
+    JedesUtf8Zeichen(text, [&](char32_t zeichen, std::string_view) {
         const double vorschub = Vorschub(zeichen);
         breiten.ganz += vorschub;
         wort = zeichen == U' ' ? 0 : wort + vorschub;
         breiten.wort = std::max(breiten.wort, wort);
-    }
+    });
     return breiten;
 }
 
@@ -84,7 +76,7 @@ std::size_t Textmass::Passend(std::string_view wort, double platz) const {
     std::size_t bytes = 0;
     double breite = 0;
     while (bytes < wort.size()) {
-        const auto [zeichen, laenge] = ErstesZeichen(wort.substr(bytes));
+        const auto [zeichen, laenge] = Utf8Naechstes(wort.substr(bytes));
         breite += Vorschub(zeichen);
         if (bytes > 0 && breite > platz + toleranz) break;
         bytes += laenge;

@@ -1,8 +1,8 @@
 #include "kern/bericht/zeilenformat.h"
 
-#include "kern/dates/textteile.h"
 #include "kern/dates/zahl.h"
 #include "kern/dates/zahlformat.h"
+#include "kern/grund/utf8.h"
 
 namespace zinfolio {
 namespace {

@@ -48,6 +48,10 @@ std::size_t Einlesen(const Deskriptor& offene, const fs::path& datei, std::span<
 
 }  // namespace
 
+std::string UeberHoechstzahl(std::string_view saetze) {
+    return "Mehr als " + std::to_string(HoechstzahlSaetze).append(" ").append(saetze).append(".");
+}
+
 void SatzzahlPruefen(const fs::path& datei, std::size_t anzahl) {
     if (anzahl <= HoechstzahlSaetze) return;
     throw Dateifehler({datei}, std::to_string(anzahl) + " Sätze, höchstens " +

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <filesystem>
 #include <span>
+#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -24,6 +25,9 @@ concept Satz = requires(const T& satz, std::span<std::byte, T::Satzlaenge> ziel,
 
 /// Record numbers are 2-byte signed integers throughout the system.
 inline constexpr std::size_t HoechstzahlSaetze = 32767;
+
+/// What a fault says where there are more than `HoechstzahlSaetze`: "Mehr als 32767 Zahlungen.".
+[[nodiscard]] std::string UeberHoechstzahl(std::string_view saetze);
 
 /// Bytes of all whole records; a torn tail is left out. A missing file is created empty. Throws
 /// `Dateifehler`, also for more records than `HoechstzahlSaetze`.

@@ -5,6 +5,7 @@
 
 #include "kern/dates/textteile.h"
 #include "kern/dates/zahl.h"
+#include "kern/grund/utf8.h"
 
 namespace zinfolio {
 namespace {
@@ -66,9 +67,17 @@ bool IstFehlerhaft(std::string& text, int laenge) {
 
 }  // namespace
 
+bool IstNochKeinDatum(std::string_view feld) {
+    return Zeichenzahl(feld) <= 1;
+}
+
+bool DatumFehlt(std::string_view feld) {
+    return IstNochKeinDatum(feld) || Zahlwert(feld) == 0;
+}
+
 Datumspruefung DatumPruefen(std::string_view feld, Datum heute, int laenge) {
     std::string text(feld);
-    if (Zeichenzahl(feld) <= 1) return {text, false, {}};
+    if (IstNochKeinDatum(feld)) return {text, false, {}};
     if (!IstFehlerhaft(text, laenge)) return {text, false, {}};
     if (laenge == 10) return {heute.Text(), true, meldungUngueltigesDatum};
     return {"", true, meldungUngueltigesDatumOhneJahr};

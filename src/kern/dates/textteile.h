@@ -4,8 +4,6 @@
 #include <array>
 #include <string_view>
 
-#include "kern/grund/utf8.h"
-
 namespace zinfolio {
 
 /// The text without blanks at either end.
@@ -29,13 +27,5 @@ inline constexpr auto ziffernpaare = [] {
     }
     return paare;
 }();
-
-/// Characters of a UTF-8 text (bytes that continue a character do not count).
-[[nodiscard]] constexpr std::size_t Zeichenzahl(std::string_view utf8) {
-    std::size_t anzahl = 0;
-    for (const char byte : utf8)
-        anzahl += IstUtf8Folge(byte) ? 0U : 1U;
-    return anzahl;
-}
 
 }  // namespace zinfolio

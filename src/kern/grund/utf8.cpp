@@ -67,11 +67,6 @@ std::string Gekuerzt(std::string_view utf8, std::size_t hoechstens) {
     return text;
 }
 
-Utf8Zeichen Utf8Naechstes(std::string_view utf8) {
-    constexpr Utf8Zeichen keines{U'\uFFFD', 1};
-    return Utf8Lesen(utf8).value_or(keines);
-}
-
 std::string_view OhneLetzteZeichen(std::string_view utf8, std::size_t anzahl) {
     std::vector<std::size_t> anfaenge;
     std::size_t stelle = 0;

@@ -28,12 +28,24 @@ struct Utf8Zeichen {
     return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
 }
 
+/// Characters of a text (bytes that continue a character do not count).
+[[nodiscard]] constexpr std::size_t Zeichenzahl(std::string_view utf8) {
+    std::size_t anzahl = 0;
+    for (const char byte : utf8)
+        anzahl += IstUtf8Folge(byte) ? 0U : 1U;
+    return anzahl;
+}
+
 /// At most `hoechstens` characters of a UTF-8 text, with "…" behind where something was cut.
 [[nodiscard]] std::string Gekuerzt(std::string_view utf8, std::size_t hoechstens);
 
 /// The first character of a text; one byte as U+FFFD where its bytes are not well-formed UTF-8. REQUIRES: the
 /// text is not empty.
-[[nodiscard]] Utf8Zeichen Utf8Naechstes(std::string_view utf8);
+[[nodiscard]] inline Utf8Zeichen Utf8Naechstes(std::string_view utf8) {
+    const auto byte = static_cast<unsigned char>(utf8.front());
+    if (byte < 0x80) return {byte, 1};
+    return Utf8Lesen(utf8).value_or(Utf8Zeichen{U'\uFFFD', 1});
+}
 
 /// Gives each character of a text to `arbeit`, with its bytes as they stand; what is not well-formed goes
 /// byte by byte as U+FFFD.

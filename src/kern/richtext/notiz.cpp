@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "kern/grund/utf8.h"
 #include "kern/richtext/rtfzerleger.h"
 
 namespace zinfolio {
@@ -13,20 +14,11 @@ constexpr std::array<std::string_view, 14> fremdeTeile{
     "pict",    "object", "footnote", "annotation", "header",  "headerl", "headerr",
     "headerf", "footer", "footerl",  "footerr",    "footerf", "shp",     "do"};
 
-/// A byte that begins a character: all but the following bytes of a longer one.
-constexpr bool BeginntZeichen(char byte) {
-    return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
-}
-
-std::size_t Zeichenzahl(std::string_view utf8) {
-    return static_cast<std::size_t>(std::ranges::count_if(utf8, BeginntZeichen));
-}
-
 /// So many characters from the start of a text.
 std::string_view Anfangszeichen(std::string_view utf8, std::size_t zeichen) {
     std::size_t i = 0;
-    while (i < utf8.size() && (zeichen > 0 || !BeginntZeichen(utf8[i]))) {
-        if (BeginntZeichen(utf8[i])) --zeichen;
+    while (i < utf8.size() && (zeichen > 0 || IstUtf8Folge(utf8[i]))) {
+        if (!IstUtf8Folge(utf8[i])) --zeichen;
         ++i;
     }
     return utf8.substr(0, i);

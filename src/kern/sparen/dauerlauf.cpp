@@ -30,7 +30,7 @@ Dauerlauf::Dauerlauf(const Sparform& form, const Sparplan& plan)
 
 void Dauerlauf::ZahlungenBis(Datum ende) {
     while (naechsteRate <= ende) {
-        if (zahlungen.size() >= HoechstzahlSaetze) throw Rechenfehler("Mehr als 32767 Zahlungen.");
+        if (zahlungen.size() >= HoechstzahlSaetze) throw Rechenfehler(UeberHoechstzahl("Zahlungen"));
         const Datum tag = tage.Weiter(naechsteRate);
         zahlungen.push_back({tag, folge.Naechste()});
         naechsteRate = tage.Rohes();
@@ -85,7 +85,7 @@ double Dauerlauf::Endstand(Datum ende) {
     // A settlement on the closing date stands in for the closing row, which adds nothing to it.
     const bool geschlossen = letzter.art == Art::zinstermin && letzter.tag == ende;
     const auto zeilen = static_cast<std::size_t>(hinter - staende.begin()) + (geschlossen ? 0 : 1);
-    if (zeilen > HoechstzahlSaetze) throw Rechenfehler("Die Staffel hat mehr als 32767 Zeilen.");
+    if (zeilen > HoechstzahlSaetze) throw Rechenfehler(UeberHoechstzahl("Zeilen der Staffel"));
     if (geschlossen || !HatSchlusszeile(ende)) return letzter.kontostand;
     const double kontostand = letzter.kontostand + (letzter.angefallen + Periodenzins(letzter, ende));
     if (!std::isfinite(kontostand)) throw Rechenfehler("Überlauf im Konto.");

@@ -4,9 +4,9 @@
 #include <cmath>
 
 #include "kern/dateien/satzdatei.h"
-#include "kern/dates/textteile.h"
 #include "kern/dates/zahl.h"
 #include "kern/grund/rechenfehler.h"
+#include "kern/grund/utf8.h"
 #include "kern/grund/windows1252.h"
 #include "kern/sparen/ratenfolge.h"
 #include "kern/staffel/dateienmischen.h"
@@ -47,7 +47,7 @@ class Zahlungsschreiber {
     explicit Zahlungsschreiber(std::vector<Staffelsatz>& zielsaetze) : ziel(zielsaetze) { ziel.clear(); }
 
     void Schreibe(std::string_view datumstext, double betrag, const Festtext<25>& text) {
-        if (ziel.size() >= HoechstzahlSaetze) throw Rechenfehler("Mehr als 32767 Zahlungen.");
+        if (ziel.size() >= HoechstzahlSaetze) throw Rechenfehler(UeberHoechstzahl("Zahlungen"));
         Staffelsatz& satz = ziel.emplace_back();
         satz.Zahlungsart = zahlungsart::zahlung;
         satz.Zahlungstext = text;

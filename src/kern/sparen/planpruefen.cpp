@@ -1,8 +1,8 @@
 #include "kern/sparen/planpruefen.h"
 
 #include "kern/dates/datum.h"
-#include "kern/dates/textteile.h"
 #include "kern/dates/zahl.h"
+#include "kern/grund/utf8.h"
 #include "kern/sparen/meldungen.h"
 #include "kern/sparen/sparform.h"
 

@@ -4,8 +4,8 @@
 #include <utility>
 
 #include "kern/dates/datum.h"
-#include "kern/dates/textteile.h"
 #include "kern/dates/zahl.h"
+#include "kern/grund/utf8.h"
 #include "kern/sparen/meldungen.h"
 
 namespace zinfolio {

@@ -69,7 +69,7 @@ std::optional<Ablehnung> dateienmischen(const Staffelquellen& quellen, Datum abs
     do {
         Quelle& naechste = NaechsteQuelle(zahlungen, konditionen, termine);
         if (naechste.Stand() > abschluss) break;
-        if (loesung.size() >= HoechstzahlSaetze) throw Rechenfehler("Die Staffel hat mehr als 32767 Zeilen.");
+        if (loesung.size() >= HoechstzahlSaetze) throw Rechenfehler(UeberHoechstzahl("Zeilen der Staffel"));
         loesung.push_back(naechste.Satz());
         naechste.Weiter();
     } while (!(zahlungen.AmEnde() && konditionen.AmEnde() && termine.AmEnde()));

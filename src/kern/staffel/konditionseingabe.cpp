@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "kern/dates/datumpruefen.h"
 #include "kern/dates/feldtext.h"
-#include "kern/dates/textteile.h"
 #include "kern/dates/zahl.h"
 #include "kern/grund/windows1252.h"
 #include "kern/staffel/meldungen.h"
@@ -50,10 +50,7 @@ Konditionspruefung KonditionPruefen(Konditionseingabe& eingabe, std::span<const 
         return Abgelehnt(meldung::datumDoppelt);
     }
     LeereFelderFuellen(eingabe);
-    // A text of one character passes the date check of its field, but is no date yet.
-    if (Zeichenzahl(eingabe.Gültigdatum) <= 1 || Zahlwert(eingabe.Gültigdatum) == 0) {
-        return Abgelehnt(meldung::unvollstaendig);
-    }
+    if (DatumFehlt(eingabe.Gültigdatum)) return Abgelehnt(meldung::unvollstaendig);
     if (Zahl(eingabe.Guthabenlinie) == 0) return Gewarnt(meldung::guthabenlinieNull, angenommenBisher);
     if (Zahl(eingabe.Kreditlinie) == 0) return Gewarnt(meldung::kreditlinieNull, angenommenBisher);
     return {std::nullopt, true};

@@ -3,9 +3,9 @@
 #include <cmath>
 
 #include "kern/dateien/satzdatei.h"
+#include "kern/dates/datumpruefen.h"
 #include "kern/dates/feldtext.h"
 #include "kern/dates/rundung.h"
-#include "kern/dates/textteile.h"
 #include "kern/dates/zahl.h"
 #include "kern/grund/rechenfehler.h"
 #include "kern/staffel/meldungen.h"
@@ -45,7 +45,7 @@ class Reihenschreiber {
         : eingabe_(eingabe), ziel_(ziel) {}
 
     void Schreibe(std::string_view datumstext, double betrag) {
-        if (ziel_.size() >= HoechstzahlSaetze) throw Rechenfehler("Mehr als 32767 Zahlungen.");
+        if (ziel_.size() >= HoechstzahlSaetze) throw Rechenfehler(UeberHoechstzahl("Zahlungen"));
         ziel_.push_back(Zahlungssatz(datumstext, betrag, eingabe_.Beschreibung));
     }
 
@@ -90,11 +90,6 @@ void FuelleLeer(std::string& feld, std::string_view ersatz) {
     if (feld.empty()) feld = ersatz;
 }
 
-/// A text of one character passes the date check of its field, but is no date yet.
-bool IstOhneDatum(const std::string& text) {
-    return Zeichenzahl(text) <= 1 || Zahlwert(text) == 0;
-}
-
 }  // namespace
 
 std::optional<Ablehnung> ZahlungseingabePruefen(Zahlungseingabe& eingabe, Nullbetrag nullbetrag) {
@@ -107,7 +102,7 @@ std::optional<Ablehnung> ZahlungseingabePruefen(Zahlungseingabe& eingabe, Nullbe
         return Ablehnung{std::string(meldung::stufenFehlen), "Stufen", ""};
     }
     const bool ohneBetrag = nullbetrag == Nullbetrag::abgelehnt && Zahl(eingabe.Betrag) == 0;
-    if (ohneBetrag || IstOhneDatum(eingabe.Begdatum)) {
+    if (ohneBetrag || DatumFehlt(eingabe.Begdatum)) {
         return Ablehnung{std::string(meldung::unvollstaendig), "Begdatum", ""};
     }
     return std::nullopt;

@@ -180,7 +180,7 @@ Zahlungsimport ZahlungenEinlesen(std::string_view bytes, std::size_t hoechstens)
         if (const auto* grund = std::get_if<std::string>(&gelesen))
             ergebnis.ausfaelle.push_back(Ausfall(zeile, *grund));
         else if (ergebnis.zahlungen.size() >= hoechstens)
-            ergebnis.ausfaelle.push_back(Ausfall(zeile, "Mehr als 32767 Zahlungen hat kein Konto."));
+            ergebnis.ausfaelle.push_back(Ausfall(zeile, UeberHoechstzahl("Zahlungen hat kein Konto")));
         else
             ergebnis.zahlungen.push_back(std::get<Staffelsatz>(gelesen));
     }

@@ -31,7 +31,7 @@ void Zinstermine(Datum erstdatum, Datum kontodatum, Zinsverrechnungsart art, std
         datum = NaechsterZinstermin(datum, art);
     termine.push_back(datum);
     while (true) {
-        if (termine.size() >= HoechstzahlSaetze) throw Datumsfehler("Es gibt mehr als 32767 Zinstermine.");
+        if (termine.size() >= HoechstzahlSaetze) throw Datumsfehler(UeberHoechstzahl("Zinstermine"));
         datum = NaechsterZinstermin(datum, art);
         if (datum >= kontodatum) break;
         termine.push_back(datum);

@@ -34,7 +34,7 @@ void FeldLesen(JsonWert& wert, Plantermine& ziel) {
 }
 
 void LaengePruefen(const SortierteZahlungen& zahlungen) {
-    if (zahlungen.saetze.size() > HoechstzahlSaetze) throw Rechenfehler("Mehr als 32767 Zahlungen.");
+    if (zahlungen.saetze.size() > HoechstzahlSaetze) throw Rechenfehler(UeberHoechstzahl("Zahlungen"));
 }
 
 void TabelleSchreiben(std::string_view name, const Zellentabelle& tabelle, JsonSchreiber& ergebnis) {

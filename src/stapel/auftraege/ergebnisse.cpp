@@ -205,7 +205,7 @@ void ReihenzinsSchreiben(std::span<const Reihensatz> reihe, Effektivmethode meth
 std::optional<Ablehnung> StaffelRechnen(Staffelergebnis& ergebnis, std::optional<Effektivmethode> methode) {
     Konto& konto = ergebnis.konto;
     if (std::max(konto.zahlungen.size(), konto.konditionen.size()) > HoechstzahlSaetze) {
-        throw Rechenfehler("Mehr als 32767 Zahlungen oder Konditionen.");
+        throw Rechenfehler(UeberHoechstzahl("Zahlungen oder Konditionen"));
     }
     if (auto ablehnung = KontoRechnen(konto)) return ablehnung;
     ergebnis.summen = KontosummenBilden(konto.loesung);

@@ -19,7 +19,7 @@ constexpr auto reihefelder = Auftragsfelder(Pflichtfeld<&Reihenauftrag::Zahlunge
                                             Pflichtfeld<&Reihenauftrag::Effektivmethode>("Effektivmethode"));
 
 std::optional<Ablehnung> RechneReihe(const Reihenauftrag& reihe, JsonSchreiber& ergebnis) {
-    if (reihe.Zahlungen.saetze.size() > HoechstzahlSaetze) throw Rechenfehler("Mehr als 32767 Zahlungen.");
+    if (reihe.Zahlungen.saetze.size() > HoechstzahlSaetze) throw Rechenfehler(UeberHoechstzahl("Zahlungen"));
     const auto& saetze = reihe.Zahlungen.saetze;
     if (saetze.empty()) return OhneZahlungen(meldung::erstDieZahlungen);
     ReihenzinsSchreiben(saetze, reihe.Effektivmethode, ergebnis);

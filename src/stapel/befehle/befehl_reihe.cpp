@@ -67,7 +67,7 @@ auto Geteilt(Wert&& wert) {
 }
 
 void Sortieren(Zahlungen& zahlungen) {
-    if (zahlungen.size() > HoechstzahlSaetze) throw Rechenfehler("Mehr als 32767 Zahlungen.");
+    if (zahlungen.size() > HoechstzahlSaetze) throw Rechenfehler(UeberHoechstzahl("Zahlungen"));
     SortiereZahlungen(zahlungen);
 }
 

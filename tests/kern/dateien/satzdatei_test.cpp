@@ -91,6 +91,10 @@ TEST_F(SatzdateiTest, ZufallsbytesBleibenWieSieSind) {
     EXPECT_EQ(ordner.Inhalt("Lösungsdatei"), inhalt);
 }
 
+TEST(Hoechstzahl, StehtAuchImText) {
+    EXPECT_EQ(UeberHoechstzahl("Zahlungen"), "Mehr als 32767 Zahlungen.");
+}
+
 TEST_F(SatzdateiTest, BisZurHoechstzahlGehtEs) {
     datei.Schreiben(Saetze(32767));
     EXPECT_EQ(datei.Anzahl(), 32767U);

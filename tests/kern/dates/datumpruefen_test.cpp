@@ -128,6 +128,16 @@ TEST(DatumPruefen, HeuteIstEinArgument) {
     EXPECT_EQ(DatumPruefen("31.02.2007", "05.06.2023"_datum).feld, "05.06.2023");
 }
 
+TEST(DatumFehlt, NichtsEinZeichenUndNullSindKeinDatum) {
+    for (const char* text : {"", "0", "5", "ä"}) {
+        EXPECT_TRUE(IstNochKeinDatum(text)) << text;
+        EXPECT_TRUE(DatumFehlt(text)) << text;
+    }
+    EXPECT_FALSE(IstNochKeinDatum("00"));
+    EXPECT_TRUE(DatumFehlt("00"));
+    EXPECT_FALSE(DatumFehlt("01.02.2007"));
+}
+
 TEST(DatumPruefen, ZehnIstDieUeblicheLaenge) {
     EXPECT_EQ(DatumPruefen("1.2.07", heute, 10).feld, "01.02.2007");
     EXPECT_EQ(DatumPruefen("1.2", heute, 10).feld, "24.03.2011");

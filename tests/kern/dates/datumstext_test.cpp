@@ -101,13 +101,5 @@ TEST(Textteile, TrimmtLeerzeichenAnBeidenEnden) {
     EXPECT_EQ(Getrimmt(""), "");
 }
 
-TEST(Textteile, ZaehltZeichenNichtBytes) {
-    EXPECT_EQ(Zeichenzahl(""), 0U);
-    EXPECT_EQ(Zeichenzahl("abc"), 3U);
-    EXPECT_EQ(Zeichenzahl("äöü"), 3U);
-    EXPECT_EQ(Zeichenzahl("5 €"), 3U);
-    EXPECT_EQ(Zeichenzahl("\xF0\x9F\x98\x80"), 1U);
-}
-
 }  // namespace datumstext_test
 }  // namespace zinfolio

@@ -34,5 +34,13 @@ TEST(OhneLetzteZeichen, ZaehltZeichenUndNichtBytes) {
     EXPECT_EQ(OhneLetzteZeichen("x", 4), "");
 }
 
+TEST(Zeichenzahl, ZaehltZeichenNichtBytes) {
+    EXPECT_EQ(Zeichenzahl(""), 0U);
+    EXPECT_EQ(Zeichenzahl("abc"), 3U);
+    EXPECT_EQ(Zeichenzahl("äöü"), 3U);
+    EXPECT_EQ(Zeichenzahl("5 €"), 3U);
+    EXPECT_EQ(Zeichenzahl("\xF0\x9F\x98\x80"), 1U);
+}
+
 }  // namespace utf8_test
 }  // namespace zinfolio

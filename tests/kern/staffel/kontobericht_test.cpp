@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "kern/bericht/seitenmass.h"
-#include "kern/dates/textteile.h"
+#include "kern/grund/utf8.h"
 #include "kern/staffel/beispielkonto.h"
 #include "kern/staffel/staffelberechnung.h"
 
