@@ -1,6 +1,7 @@
 #include "kern/dateien/dateigruppe.h"
 
 #include <atomic>
+#include <cerrno>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -10,6 +11,7 @@
 #include "kern/dateien/imspeicher.h"
 #include "kern/dateien/sicherungsjournal.h"
 #include "kern/dateien/sperre.h"
+#include "kern/dateien/stoerung.h"
 #include "kern/dateien/testordner.h"
 
 namespace zinfolio {
@@ -80,6 +82,24 @@ TEST_F(DateigruppeTest, VerweiseBleibenUndIhreZieleWerdenErsetzt) {
     EXPECT_THAT(anderswo.Namen(), ElementsAre("Ziel"));
 }
 
+TEST_F(DateigruppeTest, OhneSperrenDesDateisystemsWirdTrotzdemGespeichert) {
+    for (const int fehlernummer : {ENOLCK, EOPNOTSUPP, ENOSYS, EINVAL}) {
+        const OhneSperren ohne(fehlernummer);
+        EXPECT_EQ(Sperre(ordner.Pfad()).Stand(), Sperre::Zustand::unmoeglich);
+        const std::string wert = std::to_string(fehlernummer);
+        Speichern(wert, "2", "3");
+        EXPECT_THAT(gruppe.Lesen(), ElementsAre(wert, "2", "3"));
+        EXPECT_THAT(ordner.Namen(), ElementsAre("ZahlungenTÖl", "Öl.RRR", "ÖlRendite"));
+    }
+}
+
+TEST_F(DateigruppeTest, SperreDieScheitertIstEinFehlerMitGrund) {
+    const OhneSperren ohne(EIO);
+    EXPECT_THAT([this] { Speichern("1", "2", "3"); },
+                ThrowsMessage<Dateifehler>(HasSubstr("Fehler bei der Ein- oder Ausgabe.")));
+    EXPECT_THAT(ordner.Namen(), IsEmpty());
+}
+
 /// A save that died between its renames: the first file is new, the second old; the third is new where there
 /// was none.
 class GestorbenesSpeichernTest : public DateigruppeTest {
@@ -116,6 +136,14 @@ TEST_F(GestorbenesSpeichernTest, SolangeJemandSpeichertWirdNurHindurchgelesen) {
 }
 
 TEST_F(GestorbenesSpeichernTest, SpeichernBringtErstDasAlteInOrdnung) {
+    Speichern("a", "b", "c");
+    EXPECT_THAT(gruppe.Lesen(), ElementsAre("a", "b", "c"));
+    EXPECT_THAT(ordner.Namen(), ElementsAre("ZahlungenTÖl", "Öl.RRR", "ÖlRendite"));
+}
+
+TEST_F(GestorbenesSpeichernTest, OhneSperrenWirdHindurchgelesenUndDasNaechsteSpeichernGelingt) {
+    const OhneSperren ohne(ENOLCK);
+    EXPECT_THAT(ohneDritte.Lesen(), ElementsAre("alt 0", "alt 1", ""));
     Speichern("a", "b", "c");
     EXPECT_THAT(gruppe.Lesen(), ElementsAre("a", "b", "c"));
     EXPECT_THAT(ordner.Namen(), ElementsAre("ZahlungenTÖl", "Öl.RRR", "ÖlRendite"));

@@ -12,6 +12,8 @@ namespace {
 std::optional<Stoerung::Art> stoerung;
 int aufrufe = 0;
 int gelungene = 0;
+/// What a lock fails with; 0: it does not.
+int sperrfehler = 0;
 
 // Number of bytes that the call may move; nothing where it fails, with `errno` set.
 std::optional<std::size_t> Erlaubt(int datei, std::size_t anzahl) {
@@ -45,6 +47,14 @@ int Stoerung::Aufrufe() {
     return aufrufe;
 }
 
+OhneSperren::OhneSperren(int fehlernummer) {
+    sperrfehler = fehlernummer;
+}
+
+OhneSperren::~OhneSperren() {
+    sperrfehler = 0;
+}
+
 }  // namespace zinfolio
 
 // These take the place of the C library's functions in the whole program.
@@ -56,4 +66,10 @@ extern "C" ssize_t write(int datei, const void* quelle, std::size_t anzahl) {
 extern "C" ssize_t read(int datei, void* ziel, std::size_t anzahl) {
     const auto erlaubt = zinfolio::Erlaubt(datei, anzahl);
     return erlaubt ? ::syscall(SYS_read, datei, ziel, *erlaubt) : -1;
+}
+
+extern "C" int flock(int datei, int art) {
+    if (zinfolio::sperrfehler == 0) return static_cast<int>(::syscall(SYS_flock, datei, art));
+    errno = zinfolio::sperrfehler;
+    return -1;
 }

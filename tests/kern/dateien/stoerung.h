@@ -25,4 +25,14 @@ class Stoerung {
     [[nodiscard]] static int Aufrufe();
 };
 
+/// While it lives, this test program gets `fehlernummer` for every lock that it asks for, as on a file system
+/// that knows none.
+class OhneSperren {
+  public:
+    explicit OhneSperren(int fehlernummer);
+    OhneSperren(const OhneSperren&) = delete;
+    OhneSperren& operator=(const OhneSperren&) = delete;
+    ~OhneSperren();
+};
+
 }  // namespace zinfolio
