@@ -67,6 +67,14 @@ class ZahlungenTest : public QObject {
         QCOMPARE(weg, (QStringList{"Speichern", "List1", "Bearbeiten", "Löschen", "Datumsortieren"}));
     }
 
+    void tabGehtVomDatumZuSeinemKalenderUndDannZumBetrag() {
+        QCOMPARE(Fokus(), "Begdatum");
+        Druecke(Qt::Key_Tab);
+        QCOMPARE(Fokus(), "Command6");
+        Druecke(Qt::Key_Tab);
+        QCOMPARE(Fokus(), "Betrag");
+    }
+
     void einzelneZahlungWirdUeberDieTastaturEingegeben() {
         Tippe("1.2.7");
         Druecke(Qt::Key_Return);

@@ -1,6 +1,8 @@
 // The tab "Zinssätze": entry of conditions with its warnings, its acceptance flag, change and deletion.
 
 #include <QApplication>
+#include <QCalendarWidget>
+#include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -93,6 +95,37 @@ class ZinssaetzeTest : public QObject {
         QCOMPARE(Zeilen(*form_, "List2"), 0);
         Kondition("01.01.2007", "3", "1000", "1000");
         QCOMPARE(Zeilen(*form_, "List2"), 1);
+    }
+
+    void nichtGespeicherteKonditionSagtEsNebenDerTaste() {
+        const Zeuge zeuge;
+        const auto hinweis = [this] { return Finde<QLabel>(form_.get(), "Konditionshinweis")->text(); };
+        Kondition("", "3", "1000", "1000");
+        QCOMPARE(hinweis(), "");
+        Kondition("01.01.2007", "3", "", "");
+        QCOMPARE(hinweis(),
+                 "Noch nicht gespeichert: Nach einer Ablehnung müssen beide Limits größer als 0 sein.");
+        QCOMPARE(Text("Gutzins1"), "3");
+        Kondition("01.01.2007", "3", "1000", "1000");
+        QCOMPARE(hinweis(), "");
+        Kondition("01.02.2007", "3", "", "");
+        QCOMPARE(Zeilen(*form_, "List2"), 2);
+        QCOMPARE(hinweis(), "");
+    }
+
+    void kalenderIstMitTabUndF4ErreichbarUndSchreibtDasDatum() {
+        QCOMPARE(Fokus(), "Gültigdatum");
+        Druecke(Qt::Key_Tab);
+        QCOMPARE(Fokus(), "Gültigkalender");
+        Druecke(Qt::Key_Tab);
+        QCOMPARE(Fokus(), "Gutzins1");
+        Finde<QLineEdit>(form_.get(), "Gültigdatum")->setFocus();
+        Druecke(Qt::Key_F4);
+        auto* kalender = Finde<QCalendarWidget>(form_.get(), "mview");
+        QVERIFY(kalender->isAncestorOf(QApplication::focusWidget()) || kalender->hasFocus());
+        Druecke(Qt::Key_Return);  // today is 21.11.2026
+        QCOMPARE(Text("Gültigdatum"), "21.11.2026");
+        QCOMPARE(Fokus(), "Gültigdatum");
     }
 
     void doppeltesDatumWirdAbgelehnt() {

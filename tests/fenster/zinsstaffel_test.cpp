@@ -79,6 +79,18 @@ class ZinsstaffelTest : public QObject {
             QCOMPARE(Finde<QAction>(form_.get(), name)->toolTip(), hinweis);
     }
 
+    void abschlussdatumHatSeinenKalender() {
+        Waehle(*form_, Form48000::zinsverrechnung);
+        Druecke(Qt::Key_Tab);
+        QCOMPARE(Fokus(), "Kontodatum");
+        Druecke(Qt::Key_Tab);
+        QCOMPARE(Fokus(), "Kontokalender");
+        Druecke(Qt::Key_Space);
+        Druecke(Qt::Key_Return);
+        QCOMPARE(Finde<QLineEdit>(form_.get(), "Kontodatum")->text(), "21.11.2026");
+        QVERIFY(form_->isWindowModified());
+    }
+
     void beispielkontoStimmtAufDenCent() {
         Beispielkonto();
         Waehle(*form_, Form48000::berechnung);

@@ -146,11 +146,8 @@ RegisterZahlungen::RegisterZahlungen(const Zahlungsregisterart& art, const Satzd
     anordnung->setSpacing(18);
     anordnung->addWidget(Eingabeseite());
     anordnung->addWidget(rechts_, 1);
-    TabfolgeSetzen(
-        *this,
-        {"Begdatum", "Betrag",     "Beschreibung", "Ratzahl",        "Abstand",   "Combo5",     "Check2",
-         "Check1",   "Stufen",     "Delta",        "Command1",       "Speichern", "übernehmen", "verwerfen",
-         "List1",    "Bearbeiten", "Löschen",      "Datumsortieren", "Grid2",     "Command3",   "Command4"});
+    TabfolgeSetzen(*this, {"Command1", "Speichern", "übernehmen", "verwerfen", "List1", "Bearbeiten",
+                           "Löschen", "Datumsortieren", "Grid2", "Command3", "Command4"});
     Verdrahten();
     Zeigen({});
 }

@@ -31,8 +31,10 @@ constexpr std::array<std::string_view, 2> geltungen{"Für den Gesam&tkontostand"
 constexpr std::array zweitzinsarten{1, 2};
 
 constexpr std::array feldzeilen{
-    Feld<&K::Gültigdatum>(
-        {.name = "Gültigdatum", .titel = "&Gültig ab (xx . yy . zzzz)", .filter = Tastenfilter::datum}),
+    Feld<&K::Gültigdatum>({.name = "Gültigdatum",
+                           .titel = "&Gültig ab (xx . yy . zzzz)",
+                           .filter = Tastenfilter::datum,
+                           .kalender = "Gültigkalender"}),
     Satzfeld(Feld<&K::Gutzins1>({.name = "Gutzins1", .titel = "&1. Guthabenzinssatz"}), "%"),
     Satzfeld(Feld<&K::Gutzins2>({.name = "Gutzins2", .titel = "&2. Guthabenzinssatz"}), "%"),
     Satzfeld(Feld<&K::Guthabenlinie>({.name = "Guthabenlinie", .titel = "Gültig ab Gut&habensaldo von"}),
@@ -94,11 +96,13 @@ RegisterZinssaetze::RegisterZinssaetze(const Satzdatei<Staffelsatz>& datei, QWid
     anordnung->addWidget(Eingabeseite());
     listenseite_ = Listenseite();
     anordnung->addWidget(listenseite_, 1);
-    TabfolgeSetzen(*this, {"Gültigdatum", "Gutzins1", "Gutzins2", "Guthabenlinie", "Kreditzins1",
-                           "Kreditzins2", "Kreditlinie", "Option1(1)", "Option1(2)", "speichern2",
-                           "Änderungen", "verwerfen2", "List2", "Bearbeiten2", "Löschen2"});
+    TabfolgeSetzen(
+        *this, {"Option1(2)", "speichern2", "Änderungen", "verwerfen2", "List2", "Bearbeiten2", "Löschen2"});
     liste_.ordnen = SortiereKonditionen;
-    liste_.nachLesen = [this] { angenommen_ = true; };
+    liste_.nachLesen = [this] {
+        angenommen_ = true;
+        HinweisZeigen(false);
+    };
     liste_.bearbeiten = [this] { AenderungBeginnen(); };
     liste_.nachAendern = [this] { emit geaendert(); };
     for (const char* name : {"Gutzins1", "Gutzins2", "Kreditzins1", "Kreditzins2"}) {
@@ -116,6 +120,8 @@ QWidget* RegisterZinssaetze::Eingabeseite() {
     felder_.Anlegen(feldzeilen, *raster);
     anordnung->addLayout(raster);
     hinweis_ = new QLabel;
+    hinweis_->setObjectName("Konditionshinweis");
+    hinweis_->setWordWrap(true);
     anordnung->addWidget(hinweis_);
     anordnung->addLayout(Tastenzeile({
         NeueTaste("speichern2", "&Eingabe übernehmen", this, [this] { EingabeUebernehmen(); }),
@@ -138,6 +144,7 @@ QWidget* RegisterZinssaetze::Listenseite() {
 void RegisterZinssaetze::NeuSchreiben2() {
     liste_.Auffrischen();
     angenommen_ = true;
+    HinweisZeigen(false);
 }
 
 void RegisterZinssaetze::KontoWechseln() {
@@ -169,6 +176,7 @@ bool RegisterZinssaetze::Pruefen(Konditionseingabe& eingabe, Doppelpruefung dopp
         MeldungZeigen(this, {.text = Anzeigetext(pruefung.hinweis->Meldung)});
         felder_.Fokussieren(pruefung.hinweis->Feld);
     }
+    HinweisZeigen(pruefung.IstWarnung() && !angenommen_);
     return angenommen_;
 }
 
@@ -222,8 +230,16 @@ void RegisterZinssaetze::AenderungsmodusSetzen(bool an) {
     findChild<QPushButton*>("speichern2")->setVisible(!an);
     for (const char* name : {"Änderungen", "verwerfen2"})
         findChild<QPushButton*>(name)->setVisible(an);
-    hinweis_->setText(an ? QString("Kondition %1 wird geändert.").arg(*liste_.Geaendert() + 1) : QString());
+    HinweisZeigen(false);
     listenseite_->setEnabled(!an);
+}
+
+void RegisterZinssaetze::HinweisZeigen(bool nichtGespeichert) {
+    QStringList saetze;
+    if (liste_.Geaendert()) saetze << QString("Kondition %1 wird geändert.").arg(*liste_.Geaendert() + 1);
+    if (nichtGespeichert)
+        saetze << "Noch nicht gespeichert: Nach einer Ablehnung müssen beide Limits größer als 0 sein.";
+    hinweis_->setText(saetze.join(' '));
 }
 
 }  // namespace zinfolio

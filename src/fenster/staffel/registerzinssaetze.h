@@ -44,6 +44,9 @@ class RegisterZinssaetze : public QWidget {
     void AenderungUebernehmen();
     void AenderungBeenden();
     void AenderungsmodusSetzen(bool an);
+    /// Says beside the button what goes on: which condition is under change, and whether a warning has kept
+    /// one from being stored.
+    void HinweisZeigen(bool nichtGespeichert);
     void Schreiben(std::vector<Staffelsatz> saetze);
 
     Feldgruppe<Konditionseingabe> felder_;

@@ -35,6 +35,9 @@ enum class Doppelpruefung { aus, an };
 struct Konditionspruefung {
     std::optional<Ablehnung> hinweis;
     bool angenommen = false;
+
+    /// A warning names no field that would have to be entered anew.
+    [[nodiscard]] bool IstWarnung() const { return hinweis && hinweis->Feld.empty(); }
 };
 
 /// True where a rate text is above 999 % and is therefore emptied.
