@@ -26,6 +26,15 @@ class EffektivzinssatzTest : public QObject {
             .toString();
     }
 
+    /// The first page of the preview, as its HTML file says it.
+    QString Vorschautext() {
+        const auto datei = ordner_->Pfad() / "Vorschau.htm";
+        const Dateiwahl wahl(datei);
+        Finde<QComboBox>(form_.get(), "Combo18")->setCurrentIndex(3);
+        Klicke(*form_, "Command12");
+        return QString::fromStdString(Inhalt(datei));
+    }
+
     /// 1 000 for one year at 10 %: the closing balance is 1 100, the yield 10 % by every method on 360 days.
     void Jahreskonto(const QString& zinssatz) {
         Zahlung(*form_, "31.12.2006", "1000");
@@ -110,8 +119,47 @@ class EffektivzinssatzTest : public QObject {
         Klicke(*form_, "Command14");
         Finde<QComboBox>(form_.get(), "Combo6")->setCurrentText("AIDB (ISMA)");
         QCOMPARE(Label("ezins")->text(), "10,00000");
+        QCOMPARE(Label("Label26")->text(), "Effektivzinssatz nach PAngV2000");
         Klicke(*form_, "Command5");
         QCOMPARE(Label("ezins")->text(), "9,97136");
+        QCOMPARE(Label("Label26")->text(), "Effektivzinssatz");
+    }
+
+    void satzEinesGeaendertenKontosSagtDassErNichtMehrDazugehoert() {
+        Jahreskonto("10");
+        Klicke(*form_, "Command5");
+        QVERIFY(!Label("Veraltethinweis")->isVisible());
+        Waehle(*form_, Form48000::zahlungen);
+        Zahlung(*form_, "30.06.2007", "500");
+        Waehle(*form_, Form48000::effektivzinssatz);
+        QVERIFY(Label("Veraltethinweis")->isVisible());
+        Klicke(*form_, "EffzinsDrucken");
+        QVERIFY(Vorschautext().contains("gehört nicht mehr zum Konto"));
+        Druecke(Qt::Key_Escape);
+        // 1 000 for 360 days and 500 for 180 days at 10 %.
+        Klicke(*form_, "Command14");
+        QCOMPARE(Label("EV")->text(), "1.625,00");
+        Waehle(*form_, Form48000::effektivzinssatz);
+        QVERIFY(Label("Veraltethinweis")->isVisible());
+        Waehle(*form_, Form48000::berechnung);
+        Klicke(*form_, "Command5");
+        QVERIFY(!Label("Veraltethinweis")->isVisible());
+        Klicke(*form_, "EffzinsDrucken");
+        QVERIFY(!Vorschautext().contains("gehört nicht mehr zum Konto"));
+    }
+
+    void zurueckgenommeneAenderungGibtDemKontoSeinenSatzWieder() {
+        Jahreskonto("10");
+        Klicke(*form_, "Command5");
+        Waehle(*form_, Form48000::zahlungen);
+        Zahlung(*form_, "30.06.2007", "500");
+        Waehle(*form_, Form48000::berechnung);
+        Waehle(*form_, Form48000::zahlungen);
+        const Zeuge zeuge;
+        Klicke(*form_, "Löschen");
+        Waehle(*form_, Form48000::berechnung);
+        Waehle(*form_, Form48000::effektivzinssatz);
+        QVERIFY(!Label("Veraltethinweis")->isVisible());
     }
 
     void ohneRenditeStehtDieTabelleMitNullOhneMeldung() {

@@ -134,10 +134,9 @@ void Rechner::RegisterZeigen(QWidget* seite) {
     TabStrip1_->setCurrentIndex(Stelle(seite));
 }
 
-void Rechner::RegisterAnhaengen(QWidget* seite, const char* titel, QWidget* herkunft) {
+void Rechner::RegisterAnhaengen(QWidget* seite, const char* titel, const std::function<void()>& zurueck) {
     if (!RegisterVorhanden(seite)) TabStrip1_->addTab(seite, QString::fromUtf8(titel));
-    if (!seite->findChild<QShortcut*>(verlassentaste, Qt::FindDirectChildrenOnly))
-        BeiEscape(seite, [this, herkunft] { RegisterZeigen(herkunft); });
+    if (!seite->findChild<QShortcut*>(verlassentaste, Qt::FindDirectChildrenOnly)) BeiEscape(seite, zurueck);
     RegisterZeigen(seite);
 }
 

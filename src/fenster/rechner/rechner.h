@@ -106,8 +106,8 @@ class Rechner : public QMainWindow {
     /// The same without what selecting it does.
     void RegisterZeigen(QWidget* seite);
 
-    /// Adds a tab that is there only for a while, and shows it; Escape leads back to the tab of `herkunft`.
-    void RegisterAnhaengen(QWidget* seite, const char* titel, QWidget* herkunft);
+    /// Adds a tab that is there only for a while, and shows it; Escape does `zurueck`.
+    void RegisterAnhaengen(QWidget* seite, const char* titel, const std::function<void()>& zurueck);
     void RegisterEntfernen(QWidget* seite);
     [[nodiscard]] bool RegisterVorhanden(QWidget* seite) const;
 

@@ -43,6 +43,7 @@ RegisterBerechnung::RegisterBerechnung(Auszugsart art, QWidget* eltern)
     anordnung->addWidget(grundlage_);
     anordnung->addWidget(Auszugseite(), 1);
     connect(ansicht_, &QComboBox::currentIndexChanged, this, &RegisterBerechnung::AnsichtZeigen);
+    connect(methode_, &QComboBox::currentIndexChanged, this, &RegisterBerechnung::EffektivtitelZeigen);
     connect(methode_, &QComboBox::activated, this, &RegisterBerechnung::methodeGewaehlt);
     Leeren();
 }
@@ -95,11 +96,11 @@ QWidget* RegisterBerechnung::Effektivzeile() {
                                        &RegisterBerechnung::effektivzinsVerlangt));
     }
     zeile->addStretch();
-    auto* titel = new QLabel("Effektivzinssatz", this);
-    titel->setObjectName(art_.effektivtitel);
+    effektivtitel_ = new QLabel(this);
+    effektivtitel_->setObjectName(art_.effektivtitel);
     auto* einheit = new QLabel("%", this);
     einheit->setObjectName("Label28");
-    effektivteile_ = {titel, ezins_, einheit};
+    effektivteile_ = {effektivtitel_, ezins_, einheit};
     for (QLabel* teil : effektivteile_)
         zeile->addWidget(teil);
     EffektivmethodeWaehlen(Effektivmethode::pangv2000);
@@ -122,6 +123,7 @@ QWidget* RegisterBerechnung::Auszugseite() {
 void RegisterBerechnung::EffektivzinsZeigen(const std::string& ezins, Effektivmethode methode) {
     effektivmethode_ = methode;
     ezins_->setText(QString::fromStdString(ezins));
+    EffektivtitelZeigen();
     for (QLabel* teil : effektivteile_)
         teil->show();
 }
@@ -130,6 +132,13 @@ void RegisterBerechnung::EffektivzinsVerbergen() {
     ezins_->clear();
     for (QLabel* teil : effektivteile_)
         teil->hide();
+}
+
+void RegisterBerechnung::EffektivtitelZeigen() {
+    const bool gewaehlte = effektivmethode_ == GewaehlteEffektivmethode();
+    const QString methode =
+        gewaehlte ? QString() : " nach " + Anzeigetext(Effektivmethodentext(effektivmethode_));
+    effektivtitel_->setText("Effektivzinssatz" + methode);
 }
 
 Effektivmethode RegisterBerechnung::GewaehlteEffektivmethode() const {

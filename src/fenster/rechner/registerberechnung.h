@@ -70,7 +70,7 @@ class RegisterBerechnung : public QWidget {
     /// Shows a figure of the calculator's own; an empty text hides it.
     void KennzahlZeigen(const char* name, const std::string& text);
 
-    /// Shows a rate beside the totals; hides it again.
+    /// Shows a rate beside the totals, which names its method where another one is chosen; hides it again.
     void EffektivzinsZeigen(const std::string& ezins, Effektivmethode methode);
     void EffektivzinsVerbergen();
 
@@ -103,6 +103,7 @@ class RegisterBerechnung : public QWidget {
     QWidget* Effektivzeile();
     QWidget* Auszugseite();
     void AnsichtZeigen();
+    void EffektivtitelZeigen();
     void TastenFreigeben(bool frei);
 
     Auszugsart art_;
@@ -111,6 +112,7 @@ class RegisterBerechnung : public QWidget {
     Effektivmethode effektivmethode_ = Effektivmethode::pangv2000;
     QComboBox* ansicht_;
     QComboBox* methode_;
+    QLabel* effektivtitel_ = nullptr;
     QLabel* ezins_;
     /// What the account was calculated by, so that a picture of the tab explains itself.
     QLabel* grundlage_;

@@ -80,17 +80,16 @@ Projektart Form48000::Kontoprojekt() {
 }
 
 void Form48000::Verdrahten() {
-    const auto geaendert = [this] { Geaendert(); };
-    connect(zahlungen_, &RegisterZahlungen::geaendert, this, geaendert);
-    connect(zinssaetze_, &RegisterZinssaetze::geaendert, this, geaendert);
-    connect(zinsverrechnung_, &RegisterZinsverrechnung::geaendert, this, geaendert);
+    connect(zahlungen_, &RegisterZahlungen::geaendert, this, &Form48000::KontoGeaendert);
+    connect(zinssaetze_, &RegisterZinssaetze::geaendert, this, &Form48000::KontoGeaendert);
+    connect(zinsverrechnung_, &RegisterZinsverrechnung::geaendert, this, &Form48000::KontoGeaendert);
     connect(berechnung_, &RegisterBerechnung::effektivzinsVerlangt, this, &Form48000::EffektivzinsRechnen);
     connect(berechnung_, &RegisterBerechnung::grafikVerlangt, this, &Form48000::GrafikZeigen);
     connect(berechnung_, &RegisterBerechnung::druckenVerlangt, this,
             [this] { Drucken([this] { return Kontobericht(); }); });
     connect(effektivzins_, &RegisterEffektivzins::druckenVerlangt, this,
             [this] { Drucken([this] { return Effektivzinsbericht(); }); });
-    connect(effektivzins_, &RegisterEffektivzins::zurueck, this, [this] { RegisterZeigen(berechnung_); });
+    connect(effektivzins_, &RegisterEffektivzins::zurueck, this, &Form48000::ZurStaffel);
 }
 
 void Form48000::Neu() {
@@ -135,7 +134,26 @@ void Form48000::ErgebnisLeeren() {
     berechnung_->EffektivzinsVerbergen();
 }
 
+void Form48000::KontoGeaendert() {
+    Geaendert();
+    geaendertSeitRechnung_ = true;
+    ZugehoerigkeitZeigen();
+}
+
+void Form48000::ZugehoerigkeitZeigen() {
+    const bool gehoertDazu = !geaendertSeitRechnung_ && bewertet_ && *bewertet_ == berechnung_->Loesung();
+    effektivzins_->VeraltetZeigen(!gehoertDazu);
+}
+
+void Form48000::ZurStaffel() {
+    if (geaendertSeitRechnung_)
+        RegisterWaehlen(berechnung_);
+    else
+        RegisterZeigen(berechnung_);
+}
+
 void Form48000::KontoRechnen() {
+    geaendertSeitRechnung_ = false;
     Rechnen([this] {
         Konto konto;
         berechnung_->Leeren();
@@ -146,6 +164,7 @@ void Form48000::KontoRechnen() {
         if (!RegisterVorhanden(effektivzins_)) berechnung_->EffektivzinsVerbergen();
         return ablehnung;
     });
+    ZugehoerigkeitZeigen();
 }
 
 void Form48000::EffektivzinsRechnen() {
@@ -155,7 +174,9 @@ void Form48000::EffektivzinsRechnen() {
         KontoEffektivzinsAblegen(dateien_.Ordner(), ergebnis);
         berechnung_->EffektivzinsZeigen(ergebnis.ezins, methode);
         effektivzins_->Zeigen(std::move(ergebnis));
-        RegisterAnhaengen(effektivzins_, "Effektivzinssatz", berechnung_);
+        bewertet_ = berechnung_->Berichtsdaten().loesung;
+        ZugehoerigkeitZeigen();
+        RegisterAnhaengen(effektivzins_, "Effektivzinssatz", [this] { ZurStaffel(); });
         return std::nullopt;
     });
 }
@@ -175,6 +196,7 @@ Bericht Form48000::Effektivzinsbericht() const {
         .projekt = Projektname().toStdString(),
         .methode = berechnung_->GerechneteEffektivmethode(),
         .ezins = ergebnis.ezins,
+        .veraltet = effektivzins_->Veraltet(),
         .zeilen = std::make_shared<const std::vector<Ergebnissatz>>(zeilen.begin(), zeilen.end()),
     });
 }

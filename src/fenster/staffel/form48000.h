@@ -42,6 +42,12 @@ class Form48000 : public Rechner {
     [[nodiscard]] Bericht Kontobericht() const;
     [[nodiscard]] Bericht Effektivzinsbericht() const;
     void GrafikZeigen();
+    /// The user has changed what the account is calculated from.
+    void KontoGeaendert();
+    /// Says where the rate of the sixth tab is not that of the account.
+    void ZugehoerigkeitZeigen();
+    /// Leaves the sixth tab; an account that has been changed is calculated anew.
+    void ZurStaffel();
 
     Kontodateien dateien_;
     /// What of the project that was read last a calculation passes over.
@@ -53,6 +59,10 @@ class Form48000 : public Rechner {
     RegisterNotizen* notizen_;
     /// Its tab exists only while there is a result.
     RegisterEffektivzins* effektivzins_;
+    /// The statement that its rate was calculated from, and whether the account was changed after the last
+    /// one.
+    std::shared_ptr<const std::vector<Staffelsatz>> bewertet_;
+    bool geaendertSeitRechnung_ = false;
 };
 
 }  // namespace zinfolio

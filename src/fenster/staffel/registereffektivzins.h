@@ -20,6 +20,10 @@ class RegisterEffektivzins : public QWidget {
     /// Shows a rate, or the table at rate 0 where there is none.
     void Zeigen(Kontoeffektivzins ergebnis);
 
+    /// Whether the account has been changed since: then the tab says that the rate is none of it.
+    void VeraltetZeigen(bool veraltet);
+    [[nodiscard]] bool Veraltet() const { return veraltet_; }
+
     [[nodiscard]] const Kontoeffektivzins& Ergebnis() const { return ergebnis_; }
 
   signals:
@@ -29,6 +33,8 @@ class RegisterEffektivzins : public QWidget {
 
   private:
     Kontoeffektivzins ergebnis_;
+    bool veraltet_ = false;
+    QLabel* hinweis_;
     QLabel* Effzisa_;
     Tabelle* Grid1_;
 };

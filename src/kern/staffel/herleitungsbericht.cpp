@@ -17,6 +17,7 @@ std::string Seitenzeile(const Herleitungsberichtsdaten& daten) {
     std::string zeile(herleitungsueberschrift);
     zeile.append(" ").append(Effektivmethodentext(daten.methode));
     zeile.append(" : ").append(Getrimmt(daten.ezins)).append(" %    *    ").append(daten.projekt);
+    if (daten.veraltet) zeile.append("    *    gehört nicht mehr zum Konto");
     return zeile;
 }
 

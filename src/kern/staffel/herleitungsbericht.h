@@ -18,6 +18,8 @@ struct Herleitungsberichtsdaten {
     Effektivmethode methode = Effektivmethode::pangv2000;
     /// The rate as its field shows it; empty: there is none.
     std::string ezins;
+    /// The account has been changed since: the report says so.
+    bool veraltet = false;
     /// The rows of the derivation; none: the table is empty.
     std::shared_ptr<const std::vector<Ergebnissatz>> zeilen;
 };
