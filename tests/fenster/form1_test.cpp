@@ -48,6 +48,44 @@ class Form1Test : public QObject {
         QCOMPARE(Form1(ordner.Pfad()).windowTitle(), "Zinfolio                Vers. 2.0.2");
     }
 
+    void ersterRechnerHatDenFokusUndEnterOeffnetIhn() {
+        const Testordner ordner;
+        Form1 form(ordner.Pfad());
+        Zeige(form);
+        QCOMPARE(Fokus(), "TasteZinsstaffelrechner");
+        Druecke(Qt::Key_Return);
+        QVERIFY(Rechner());
+        Zeuge zeuge;
+        zeuge.antwort = Antwort::nein;
+        Rechner()->close();
+        form.activateWindow();
+        QTRY_COMPARE(Fokus(), "TasteZinsstaffelrechner");
+    }
+
+    void f10OeffnetDasMenueUndFuehrtZurueck() {
+        const Testordner ordner;
+        Form1 form(ordner.Pfad());
+        Zeige(form);
+        const QMenuBar& leiste = *form.menuBar();
+        Druecke(Qt::Key_F10);
+        QVERIFY(leiste.hasFocus());
+        QCOMPARE(leiste.activeAction()->text(), "Effektivzinsrechner");
+        Druecke(Qt::Key_Right);
+        QCOMPARE(leiste.activeAction()->text(), "Zinsstaffelrechner");
+        Druecke(Qt::Key_Escape);
+        QCOMPARE(Fokus(), "TasteZinsstaffelrechner");
+        Druecke(Qt::Key_F10);
+        Druecke(Qt::Key_F10);
+        QCOMPARE(Fokus(), "TasteZinsstaffelrechner");
+        Druecke(Qt::Key_F10);
+        Druecke(Qt::Key_Right);
+        Druecke(Qt::Key_Return);
+        QVERIFY(Rechner());
+        Zeuge zeuge;
+        zeuge.antwort = Antwort::nein;
+        Rechner()->close();
+    }
+
     void rechnerOeffnetSichVerstecktDenStartUndFuehrtZurueck() {
         const Testordner ordner;
         Form1 form(ordner.Pfad());

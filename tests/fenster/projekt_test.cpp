@@ -269,7 +269,10 @@ class ProjektTest : public QObject {
         Oeffnen("Konto.ZiS");
         QCOMPARE(zeuge.texte.size(), 1);
         QVERIFY(zeuge.texte[0].startsWith("Bitte überprüfen Sie Ihre Angaben."));
-        QVERIFY(zeuge.einzelheiten[0].contains("ZinsstaffelzinsKonto"));
+        const QString datei = QString::fromStdString(Datei("ZinsstaffelzinsKonto").string());
+        QCOMPARE(zeuge.texte[0].count(datei), 1);
+        QVERIFY2(zeuge.texte[0].contains("nicht vorhanden"), qPrintable(zeuge.texte[0]));
+        QCOMPARE(zeuge.einzelheiten[0], "");
         QCOMPARE(Projekt(), "Kopie.ZiS");
         QCOMPARE(Zeilen(*form_, "List1"), 2);
         QCOMPARE(Zeilen(*form_, "List2"), 1);

@@ -173,6 +173,16 @@ class RechnerTest : public QObject {
         }
     }
 
+    void f10FuehrtInsMenueUndZurueck() {
+        Eingeben();
+        const QString feld = Fokus();
+        Druecke(Qt::Key_F10);
+        QVERIFY(Form().menuBar()->hasFocus());
+        QCOMPARE(Form().menuBar()->activeAction()->text(), "&Datei");
+        Druecke(Qt::Key_Escape);
+        QCOMPARE(Fokus(), feld);
+    }
+
     void strgTabWechseltDasRegisterVonUeberall() {
         Eingeben();
         Druecke(Qt::Key_Tab, Qt::ControlModifier);
@@ -241,7 +251,7 @@ class RechnerTest : public QObject {
         const Zeuge zeuge;
         stand_->Taste(Qt::Key_O);
         QCOMPARE(zeuge.texte.size(), 1);
-        QVERIFY(zeuge.einzelheiten[0].contains("Anderes.PRB"));
+        QVERIFY(zeuge.texte[0].contains("Anderes.PRB"));
         QCOMPARE(Form().windowTitle(), "Probe – Sparbuch.PRB[*]");
         QCOMPARE(Finde<QLineEdit>(&Form(), "Betrag")->text(), "1000");
     }

@@ -85,7 +85,7 @@ void Projektablage::ZuDateiWechseln(const std::filesystem::path& datei) {
 
 bool Projektablage::Laden(const std::filesystem::path& datei, Leseanlass anlass) {
     // A project that cannot be read wholly changes nothing.
-    return GeschuetztMitWartezeiger(Fenster(), [&] {
+    return MitLesemeldung(Fenster(), [&] {
         art_.laden(datei, anlass);
         Benennen(datei);
         ProjektMerken(QString::fromStdString(datei.string()));

@@ -7,6 +7,7 @@
 #include "fenster/rechner/ablage.h"
 #include "fenster/rechner/rechner.h"
 #include "fenster/ui/geschuetzt.h"
+#include "fenster/ui/menuetaste.h"
 #include "fenster/ui/symbol.h"
 
 namespace zinfolio {
@@ -51,6 +52,7 @@ void Rechner::LeisteAnlegen() {
         leiste->addSeparator();
     }
     FesteBefehleAnlegen(*datei, *leiste);
+    MenueMitF10(*this);
 }
 
 void Rechner::FesteBefehleAnlegen(QMenu& datei, QToolBar& leiste) {

@@ -5,7 +5,6 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QMenuBar>
-#include <QScreen>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <array>
@@ -23,7 +22,9 @@
 #include "fenster/start/rechnertaste.h"
 #include "fenster/tabellen/form14005.h"
 #include "fenster/ui/bausteine.h"
+#include "fenster/ui/fenstergroesse.h"
 #include "fenster/ui/geschuetzt.h"
+#include "fenster/ui/menuetaste.h"
 #include "fenster/ui/symbol.h"
 #include "kern/dateien/arbeitsordner.h"
 
@@ -83,7 +84,7 @@ const Rechnereintrag* Projektrechner(const QString& datei) {
 /// Room for three columns of buttons in the user's font, as far as the screen has it.
 QSize Anfangsgroesse(const QWidget& fenster) {
     const int zeile = fenster.fontMetrics().height();
-    return QSize(72 * zeile, 40 * zeile).boundedTo(fenster.screen()->availableSize());
+    return QSize(72 * zeile, 40 * zeile).boundedTo(Bildschirmplatz(fenster));
 }
 
 }  // namespace
@@ -105,11 +106,13 @@ Form1::Form1(std::filesystem::path arbeitsordner) : arbeitsordner_(std::move(arb
     RechnerAnbieten(reihenrechner);
     RechnerAnbieten(sparrechner);
     MenueAnlegen();
+    MenueMitF10(*this);
     TafelAnlegen();
     setAcceptDrops(true);
     auto* abwurf = new Projektabwurf([](const QString& datei) { return Projektrechner(datei); }, this);
     connect(abwurf, &Projektabwurf::projektAbgeworfen, this, &Form1::ProjektOeffnenSobaldFrei);
     qApp->installEventFilter(abwurf);
+    findChild<Rechnertaste*>()->setFocus();
     resize(Anfangsgroesse(*this));
     move(0, 0);
 }

@@ -20,13 +20,8 @@ class Wartezeiger {
     Wartezeiger& operator=(const Wartezeiger&) = delete;
 };
 
-void AngabenFehler(QWidget* fenster, const QString& ursache) {
-    MeldungZeigen(fenster, {.text = Anzeigetext(meldung::angabenFehler), .einzelheiten = ursache});
-}
-
-}  // namespace
-
-bool Geschuetzt(QWidget* fenster, const std::function<void()>& operation) {
+bool Versuchen(QWidget* fenster, const std::function<void()>& operation,
+               Meldungsinhalt (*fehlermeldung)(const QString& ursache)) {
     try {
         operation();
         return true;
@@ -34,9 +29,31 @@ bool Geschuetzt(QWidget* fenster, const std::function<void()>& operation) {
         MeldungZeigen(fenster, {.text = fehler.what()});
         QCoreApplication::exit(1);
     } catch (const std::exception& fehler) {
-        AngabenFehler(fenster, QString::fromUtf8(fehler.what()));
+        MeldungZeigen(fenster, fehlermeldung(QString::fromUtf8(fehler.what())));
     }
     return false;
+}
+
+Meldungsinhalt UrsacheInDenEinzelheiten(const QString& ursache) {
+    return {.text = Anzeigetext(meldung::angabenFehler), .einzelheiten = ursache};
+}
+
+Meldungsinhalt UrsacheDahinter(const QString& ursache) {
+    return {.text = Anzeigetext(meldung::angabenFehler) + "\n\n" + ursache};
+}
+
+}  // namespace
+
+bool Geschuetzt(QWidget* fenster, const std::function<void()>& operation) {
+    return Versuchen(fenster, operation, UrsacheInDenEinzelheiten);
+}
+
+bool MitLesemeldung(QWidget* fenster, const std::function<void()>& operation) {
+    const auto wartend = [&] {
+        const Wartezeiger zeiger;
+        operation();
+    };
+    return Versuchen(fenster, wartend, UrsacheDahinter);
 }
 
 bool MitSchreibmeldung(QWidget* fenster, const std::function<void()>& operation, const QString& vorspann) {

@@ -17,6 +17,10 @@ bool Geschuetzt(QWidget* fenster, const std::function<void()>& operation);
 bool MitSchreibmeldung(QWidget* fenster, const std::function<void()>& operation,
                        const QString& vorspann = {});
 
+/// The trap of what reads files that the user named: as `Geschuetzt`, behind a wait pointer, but the cause
+/// stands in the message itself.
+bool MitLesemeldung(QWidget* fenster, const std::function<void()>& operation);
+
 /// The same as `Geschuetzt`, and a wait pointer while it runs.
 bool GeschuetztMitWartezeiger(QWidget* fenster, const std::function<void()>& operation);
 
