@@ -4,6 +4,10 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "fenster/formhelfer.h"
@@ -30,6 +34,49 @@ class EingabefeldTest : public QObject {
         naechstes_->setFocus();
         Zeige(*fenster_);
         feld_->setFocus(Qt::TabFocusReason);
+    }
+
+    enum class Weg { strgV, umschaltEinfg, kontextmenue, ablegen };
+    static constexpr std::array wege{
+        std::pair("Strg+V", Weg::strgV), std::pair("Umschalt+Einfg", Weg::umschaltEinfg),
+        std::pair("Kontextmenü", Weg::kontextmenue), std::pair("Ziehen und Ablegen", Weg::ablegen)};
+
+    void Einfuegen(Weg weg, const QString& text) {
+        QApplication::clipboard()->setText(text);
+        switch (weg) {
+            case Weg::strgV:
+                return Druecke(Qt::Key_V, Qt::ControlModifier);
+            case Weg::umschaltEinfg:
+                return Druecke(Qt::Key_Insert, Qt::ShiftModifier);
+            case Weg::kontextmenue:
+                return ImKontextmenueEinfuegen();
+            case Weg::ablegen:
+                Ablegen(text);
+        }
+    }
+
+    /// The menu runs a loop of its own, so that it is answered from within.
+    void ImKontextmenueEinfuegen() {
+        QTimer::singleShot(0, this, [] {
+            QWidget* menue = QApplication::activePopupWidget();
+            for (QAction* befehl : menue->actions())
+                if (befehl->text().remove('&').startsWith("Einfügen")) befehl->trigger();
+            menue->close();
+        });
+        const QPoint mitte = feld_->rect().center();
+        QContextMenuEvent ereignis(QContextMenuEvent::Keyboard, mitte, feld_->mapToGlobal(mitte));
+        QCoreApplication::sendEvent(feld_, &ereignis);
+    }
+
+    void Ablegen(const QString& text) {
+        QMimeData daten;
+        daten.setText(text);
+        // A drop counts only where the drag has come in.
+        QDragEnterEvent herein(feld_->rect().center(), Qt::CopyAction, &daten, Qt::LeftButton,
+                               Qt::NoModifier);
+        QCoreApplication::sendEvent(feld_, &herein);
+        QDropEvent ereignis(feld_->rect().center(), Qt::CopyAction, &daten, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(feld_, &ereignis);
     }
 
   private slots:
@@ -155,6 +202,34 @@ class EingabefeldTest : public QObject {
         QApplication::clipboard()->setText("67,8");
         Druecke(Qt::Key_V, Qt::ControlModifier);
         QCOMPARE(feld_->text(), "67,8");
+    }
+
+    void eingefuegterBetragWirdAufJedemWegGleichGelesen_data() {
+        QTest::addColumn<int>("weg");
+        for (const auto& [name, weg] : wege)
+            QTest::newRow(name) << int(weg);
+    }
+    void eingefuegterBetragWirdAufJedemWegGleichGelesen() {
+        QFETCH(int, weg);
+        for (const auto& [fremd, eigen] : {std::pair("1234.56", "1234,56"), std::pair("1,234.56", "1234,56"),
+                                           std::pair("1 234,56 €", "1234,56"),
+                                           std::pair("\u22125,00", "-5,00"), std::pair("5,00-", "-5,00")}) {
+            Oeffne(Tastenfilter::betrag, "");
+            Einfuegen(static_cast<Weg>(weg), fremd);
+            QCOMPARE(feld_->text(), eigen);
+        }
+    }
+
+    void wasKeineZahlIstWirdAufJedemWegAbgewiesen_data() {
+        eingefuegterBetragWirdAufJedemWegGleichGelesen_data();
+    }
+    void wasKeineZahlIstWirdAufJedemWegAbgewiesen() {
+        QFETCH(int, weg);
+        for (const char* fremd : {"zwölf", "1,2,3", "12 und 13"}) {
+            Oeffne(Tastenfilter::betrag, "7,50");
+            Einfuegen(static_cast<Weg>(weg), fremd);
+            QCOMPARE(feld_->text(), "7,50");
+        }
     }
 
     void pfeiltastenUndEntfernenWirkenImFeld() {

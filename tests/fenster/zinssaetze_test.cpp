@@ -102,6 +102,10 @@ class ZinssaetzeTest : public QObject {
         const auto hinweis = [this] { return Finde<QLabel>(form_.get(), "Konditionshinweis")->text(); };
         Kondition("", "3", "1000", "1000");
         QCOMPARE(hinweis(), "");
+        // The refused field takes keys at once.
+        QCOMPARE(Fokus(), "Gültigdatum");
+        Tippe("010107");
+        QCOMPARE(Text("Gültigdatum"), "010107");
         Kondition("01.01.2007", "3", "", "");
         QCOMPARE(hinweis(),
                  "Noch nicht gespeichert: Nach einer Ablehnung müssen beide Limits größer als 0 sein.");

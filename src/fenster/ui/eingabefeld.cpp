@@ -111,10 +111,11 @@ void Eingabefeld::Einfuegen(const QString& eingefuegt) {
 
 void Eingabefeld::contextMenuEvent(QContextMenuEvent* ereignis) {
     const std::unique_ptr<QMenu> menue(createStandardContextMenu());
-    if (auto* einfuegen = menue->findChild<QAction*>("edit-paste")) {
-        einfuegen->disconnect(SIGNAL(triggered(bool)));
-        connect(einfuegen, &QAction::triggered, this,
-                [this] { Einfuegen(QApplication::clipboard()->text()); });
+    for (QAction* befehl : menue->actions()) {
+        // The toolkit's entry has no other name than its text; its key stands behind a tab.
+        if (befehl->text().section('\t', 0, 0) != QLineEdit::tr("&Paste")) continue;
+        disconnect(befehl, &QAction::triggered, nullptr, nullptr);
+        connect(befehl, &QAction::triggered, this, [this] { Einfuegen(QApplication::clipboard()->text()); });
     }
     menue->exec(ereignis->globalPos());
 }
