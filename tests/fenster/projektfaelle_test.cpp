@@ -11,6 +11,7 @@
 #include <QTextEdit>
 #include <QToolButton>
 #include <fcntl.h>
+#include <limits>
 #include <unistd.h>
 
 #include "fenster/kontoformular.h"
@@ -216,6 +217,35 @@ class ProjektfaelleTest : public QObject {
         // Its own name is no other project's: from here on nothing asks.
         Taste(Qt::Key_S);
         QCOMPARE(zeuge.texte.size(), 1);
+    }
+
+    void beschaedigteZahlenSindFragezeichenUndLassenSichErsetzen() {
+        KontoAnlegen();
+        const Satzdatei<Staffelsatz> zahlungen(ablage_->Pfad(), "Zinsstaffel1Konto");
+        auto saetze = zahlungen.Lesen();
+        saetze[0].Zahlbetrag = std::numeric_limits<double>::quiet_NaN();
+        saetze[1].Zahlbetrag = std::numeric_limits<double>::infinity();
+        zahlungen.Schreiben(saetze);
+        Zeuge zeuge;
+        Oeffnen(Datei("Konto.ZiS"));
+        QCOMPARE(Zeile(*form_, "List1", 0), "31.12.2006|?|Einlage");
+        QCOMPARE(Zeile(*form_, "List1", 1), "30.06.2007|?|Nachzahlung");
+        QVERIFY(!form_->grab().isNull());
+        Waehle(*form_, Form48000::berechnung);
+        QCOMPARE(zeuge.texte.size(), 1);
+        QVERIFY(zeuge.texte[0].startsWith("Bitte überprüfen Sie Ihre Angaben."));
+        Waehle(*form_, Form48000::zahlungen);
+        for (const auto& [zeile, betrag] : {std::pair(0, "1000"), std::pair(1, "500")}) {
+            Finde<Tabelle>(form_.get(), "List1")->Markiere(zeile);
+            Klicke(*form_, "Bearbeiten");
+            QCOMPARE(Finde<QLineEdit>(form_.get(), "Betrag")->text(), "");
+            Taste(Qt::Key_S);
+            QVERIFY(Finde<QPushButton>(form_.get(), "übernehmen")->isVisible());
+            Fuelle(*form_, "Betrag", betrag);
+            Klicke(*form_, "übernehmen");
+        }
+        QCOMPARE(zeuge.texte.size(), 1);
+        EingegebenesSteht();
     }
 
     void abgebrochenesOeffnenLaesstDasKonto() {

@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <algorithm>
+#include <array>
 #include <numeric>
 
 #include "fenster/ui/geschuetzt.h"
@@ -9,6 +10,16 @@
 #include "kern/staffel/meldungen.h"
 
 namespace zinfolio {
+namespace {
+
+/// A record as its file holds it: a damaged number is equal to itself there.
+std::array<std::byte, Staffelsatz::Satzlaenge> Bytes(const Staffelsatz& satz) {
+    std::array<std::byte, Staffelsatz::Satzlaenge> bytes{};
+    satz.Schreiben(bytes);
+    return bytes;
+}
+
+}  // namespace
 
 FormSatzliste::FormSatzliste(const Satzlistenart& art, const Satzdatei<Staffelsatz>& datei, QWidget* eltern)
     : QObject(eltern),
@@ -62,7 +73,7 @@ void FormSatzliste::Auffrischen() {
 }
 
 std::optional<std::size_t> FormSatzliste::Stelle(const Staffelsatz& satz) const {
-    const auto treffer = std::find(saetze_.begin(), saetze_.end(), satz);
+    const auto treffer = std::ranges::find(saetze_, Bytes(satz), Bytes);
     if (treffer == saetze_.end()) return std::nullopt;
     return static_cast<std::size_t>(treffer - saetze_.begin());
 }

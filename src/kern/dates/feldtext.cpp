@@ -16,6 +16,7 @@ std::string MitKomma(std::string ziffern, int vorKomma) {
 }  // namespace
 
 std::string Feldtext(std::string_view zahltext) {
+    if (zahltext.find_first_of("0123456789") == std::string_view::npos) return {};
     const auto trenner = zahltext.find('E');
     if (trenner == std::string_view::npos) return std::string(zahltext);
     std::string_view exponententext = zahltext.substr(trenner + 1);

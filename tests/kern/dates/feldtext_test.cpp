@@ -1,6 +1,7 @@
 #include "kern/dates/feldtext.h"
 
 #include <gtest/gtest.h>
+#include <limits>
 
 #include "kern/dates/zahl.h"
 
@@ -22,6 +23,13 @@ TEST(Feldtext, GrosseZahlenStehenOhneExponent) {
 TEST(Feldtext, AndereTexteBleiben) {
     for (const char* text : {"0", "-12,5", "1234567,891", ""})
         EXPECT_EQ(Feldtext(text), text);
+}
+
+TEST(Feldtext, BeschaedigteZahlenLassenDasFeldLeer) {
+    for (const double zahl :
+         {std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity(),
+          -std::numeric_limits<double>::infinity()})
+        EXPECT_EQ(Feldtext(Zahltext(zahl)), "");
 }
 
 TEST(Feldtext, WasWirZeigenLesenWir) {
