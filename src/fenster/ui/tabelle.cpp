@@ -4,23 +4,29 @@
 #include <QClipboard>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QScrollBar>
 #include <QWheelEvent>
 #include <algorithm>
 #include <cmath>
 #include <numeric>
 
+#include "fenster/ui/festspalten.h"
 #include "fenster/ui/tabellenbefehle.h"
 
 namespace zinfolio {
 
 Tabelle::Tabelle(const QString& name, QWidget* eltern)
-    : QTableView(eltern), modell_(new Tabellenmodell(this)), normalepunkte_(font().pointSizeF()) {
+    : QTableView(eltern),
+      modell_(new Tabellenmodell(this)),
+      feste_(nullptr),
+      normalepunkte_(font().pointSizeF()) {
     setObjectName(name);
     setModel(modell_);
-    TabellenbefehleAnlegen(*this);
-    setAlternatingRowColors(true);
     setSelectionBehavior(SelectRows);
     setSelectionMode(ExtendedSelection);
+    feste_ = new Festspalten(*this);
+    TabellenbefehleAnlegen(*this);
+    setAlternatingRowColors(true);
     setEditTriggers(NoEditTriggers);
     setWordWrap(false);
     setTabKeyNavigation(false);
@@ -36,6 +42,7 @@ void Tabelle::Zeige(Tabelleninhalt inhalt) {
     modell_->Setze(std::move(inhalt));
     SpaltenMessen();
     SpaltenVerteilen();
+    feste_->Zeigen(static_cast<int>(Inhalt().festeSpalten));
 }
 
 std::vector<std::size_t> Tabelle::MarkierteZeilen() const {
@@ -105,6 +112,7 @@ void Tabelle::GroesseZeigen() {
     ZeilenhoeheSetzen();
     SpaltenMessen();
     SpaltenVerteilen();
+    feste_->Anpassen();
 }
 
 void Tabelle::ZeilenhoeheSetzen() {
@@ -153,6 +161,15 @@ void Tabelle::SpaltenVerteilen() {
 void Tabelle::resizeEvent(QResizeEvent* ereignis) {
     QTableView::resizeEvent(ereignis);
     SpaltenVerteilen();
+    feste_->Anpassen();
+}
+
+void Tabelle::scrollTo(const QModelIndex& index, ScrollHint art) {
+    QTableView::scrollTo(index, art);
+    const int verdeckt = feste_->Verdeckt() - visualRect(index).left();
+    const bool beweglich = index.column() >= static_cast<int>(Inhalt().festeSpalten);
+    if (beweglich && !feste_->isHidden() && verdeckt > 0)
+        horizontalScrollBar()->setValue(horizontalScrollBar()->value() - verdeckt);
 }
 
 QModelIndex Tabelle::moveCursor(CursorAction schritt, Qt::KeyboardModifiers zusatz) {

@@ -6,12 +6,14 @@
 
 namespace zinfolio {
 
+class Festspalten;
+
 /// Whether a text of rows begins with the headers of their columns.
 enum class Kopfzeile : bool { ohne, mit };
 
 /// The program's table: whole rows are selected, rows alternate, columns fit their content and share what
-/// room is left. Its commands (`tabellenbefehle.h`) stand in its context menu; Ctrl and the wheel change its
-/// size.
+/// room is left; those that the content wants to stay in sight do so while the others scroll. Its commands
+/// (`tabellenbefehle.h`) stand in its context menu; Ctrl and the wheel change its size.
 class Tabelle : public QTableView {
     Q_OBJECT
 
@@ -48,6 +50,8 @@ class Tabelle : public QTableView {
     void wheelEvent(QWheelEvent* ereignis) override;
     void resizeEvent(QResizeEvent* ereignis) override;
     void keyPressEvent(QKeyEvent* ereignis) override;
+    /// Shows a cell beside the columns that stay in sight, not below them.
+    void scrollTo(const QModelIndex& index, ScrollHint art = EnsureVisible) override;
     /// Home and End go to the first and the last row.
     QModelIndex moveCursor(CursorAction schritt, Qt::KeyboardModifiers zusatz) override;
 
@@ -59,6 +63,7 @@ class Tabelle : public QTableView {
     [[nodiscard]] int Spaltenbreite(int spalte) const;
 
     Tabellenmodell* modell_;
+    Festspalten* feste_;
     /// What each column needs.
     std::vector<int> breiten_;
     /// The size of the font without any steps, in points.

@@ -1,6 +1,7 @@
 #pragma once
 // A table told once: its columns are data, and grid, report, CSV and text show their cells as they come.
 
+#include <cmath>
 #include <cstddef>
 #include <functional>
 #include <memory>
@@ -67,6 +68,8 @@ struct Tabelleninhalt {
     std::function<std::string(std::size_t zeile)> zeilentext = {};
     /// The row that stands out by its colour.
     std::optional<std::size_t> hervorgehoben = std::nullopt;
+    /// So many of the first columns stay in sight where a grid scrolls sideways.
+    std::size_t festeSpalten = 0;
 
     [[nodiscard]] Zellwert Wert(std::size_t zeile, std::size_t spalte) const;
 };
@@ -82,6 +85,7 @@ Tabellenspalte OhneZeilentyp(const Spalte<Zeile>& spalte) {
 /// The text of a cell; `keineZahl` where its number is none, so that a damaged record can still be looked at.
 template <class Zeile>
 std::string Zelltext(const Spalte<Zeile>& spalte, const Zeile& zeile) {
+    if (spalte.zahl && !std::isfinite(spalte.zahl(zeile))) return std::string(keineZahl);
     try {
         return spalte.zelle(zeile);
     } catch (const Zahlfehler&) {

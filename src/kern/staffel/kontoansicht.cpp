@@ -168,7 +168,10 @@ Tabelleninhalt AnsichtBilden(Kontoansicht ansicht, std::shared_ptr<const std::ve
                              const Ansichtsregel& regel) {
     if (!loesung) loesung = std::make_shared<const std::vector<Staffelsatz>>();
     std::vector<std::size_t> zeilen = Ansichtszeilen(ansicht, *loesung, regel);
-    return TabelleBilden(Ansichtsspalten(ansicht, regel), std::move(loesung), std::move(zeilen));
+    Tabelleninhalt inhalt =
+        TabelleBilden(Ansichtsspalten(ansicht, regel), std::move(loesung), std::move(zeilen));
+    inhalt.festeSpalten = 2;
+    return inhalt;
 }
 
 Kontosummen KontosummenBilden(std::span<const Staffelsatz> loesung, const Ansichtsregel& regel) {

@@ -60,6 +60,14 @@ TEST(TabelleBilden, BeschaedigteZahlenSindFragezeichen) {
     EXPECT_EQ(std::get<std::string>(tabelle.Wert(0, 1)), "?");
 }
 
+TEST(Zelltext, SchlichterTextEinerBeschaedigtenZahlIstEinFragezeichen) {
+    const Spalte<Probe> spalte{.kopf = "Satz",
+                               .zelle = [](const Probe& probe) { return Zahltext(probe.betrag); },
+                               .zahl = [](const Probe& probe) { return probe.betrag; }};
+    EXPECT_EQ(Zelltext(spalte, Probe{"", 3.3}), "3,3");
+    EXPECT_EQ(Zelltext(spalte, Probe{"", std::numeric_limits<double>::infinity()}), "?");
+}
+
 TEST(Zellwert, DatumUndZahlSonstDerText) {
     const Tabelleninhalt tabelle = Tabelle({{"31.12.2006", 2.675}, {"31.11.2006", 0}});
     EXPECT_EQ(std::get<Datum>(tabelle.Wert(0, 0)), Datum::Aus(2006, 12, 31));
