@@ -8,6 +8,7 @@
 #include "fenster/kontoformular.h"
 #include "fenster/start/form1.h"
 #include "fenster/ui/deutsch.h"
+#include "fenster/ui/platzhalterfarbe.h"
 #include "fenster/ui/uhr.h"
 #include "kern/staffel/zahlungseingabe.h"
 
@@ -80,6 +81,7 @@ void BilderDesKontos(const QDir& ordner) {
     Form48000 form(arbeitsordner.path().toStdString());
     form.resize(1180, 720);
     Zeige(form);
+    Bild(form, ordner, "neueskonto");
     Beispielkonto(form);
     Bild(form, ordner, "zinsverrechnung");
     Waehle(form, Form48000::zinssaetze);
@@ -108,6 +110,10 @@ void BilderDesKontos(const QDir& ordner) {
     Bild(form, ordner, "zahlungen");
     Klicke(form, "Speichern");
     Bild(form, ordner, "vorschau");
+    Druecke(Qt::Key_Escape);
+    Finde<Tabelle>(&form, "List1")->Markiere(4);
+    Klicke(form, "Bearbeiten");
+    Bild(form, ordner, "aenderung");
 }
 
 /// Twenty years of 1 200 a year at 4 %, and the chart of it.
@@ -155,6 +161,7 @@ int main(int argc, char** argv) {
     if (argc < 2) return 2;
     const QString variante = argc > 2 ? argv[2] : "";
     if (variante == "dunkel") DunkelFaerben();
+    const Platzhalterfarbe platzhalterfarbe;
     if (variante == "gross") SchriftVerdoppeln();
     const QDir ordner(argv[1]);
     QDir().mkpath(ordner.path());

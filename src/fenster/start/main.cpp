@@ -11,6 +11,7 @@
 #include "fenster/ui/deutsch.h"
 #include "fenster/ui/entertaste.h"
 #include "fenster/ui/meldungsfenster.h"
+#include "fenster/ui/platzhalterfarbe.h"
 #include "kern/dateien/arbeitsordner.h"
 #include "kern/dateien/dateigruppe.h"
 
@@ -72,6 +73,7 @@ int main(int argc, char** argv) {
     programm.installEventFilter(&entertaste);
     Hilfetaste hilfetaste;
     programm.installEventFilter(&hilfetaste);
+    const Platzhalterfarbe platzhalterfarbe;
     const QStringList argumente = QApplication::arguments().mid(1);
     const QString projekt = argumente.isEmpty() ? QString() : QFileInfo(argumente[0]).absoluteFilePath();
     const auto ordner = Arbeitsordner();
