@@ -19,6 +19,15 @@ std::map<QString, Fenstertest::Lauf>& Verzeichnis() {
     return verzeichnis;
 }
 
+/// A file that describes the screen: the smallest one that every window has to fit on.
+QString Bildschirm(const QTemporaryDir& ordner) {
+    QFile datei(ordner.filePath("bildschirm.json"));
+    if (!datei.open(QIODevice::WriteOnly)) qFatal("Kein Bildschirm");
+    datei.write(R"({"screens": [{"name": "klein", "x": 0, "y": 0, "width": 1280, "height": 800,)"
+                R"( "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
+    return datei.fileName();
+}
+
 }  // namespace
 
 Fenstertest::Fenstertest(const char* datei, Lauf lauf) {
@@ -41,8 +50,8 @@ int Fenstertest::Starten(const QString& name, int argc, char** argv) {
 /// under test sees an empty command line.
 int main(int argc, char** argv) {
     using namespace zinfolio;
-    qputenv("QT_QPA_PLATFORM", "offscreen");
     const QTemporaryDir konfiguration;
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + Bildschirm(konfiguration).toUtf8());
     qputenv("XDG_CONFIG_HOME", konfiguration.path().toUtf8());
     int ohneArgumente = 1;
     QApplication programm(ohneArgumente, argv);

@@ -48,8 +48,11 @@ class Form14005Test : public QObject {
         QCOMPARE(Fokus(), "J1");
         Tippe("1");
         Druecke(Qt::Key_Return);
+        QCOMPARE(Fokus(), "J2");
         Tippe("2");
+        const Zeuge zeuge;
         Druecke(Qt::Key_F9);
+        QCOMPARE(zeuge.texte.join("; "), "");
         QCOMPARE(Zeilen(*stand.form, "Grid"), 2);
         QCOMPARE(Zeile(*stand.form, "Grid", 0), "1|1,0300000|1,0400000");
         QCOMPARE(Zeile(*stand.form, "Grid", 1), "2|1,0609000|1,0816000");

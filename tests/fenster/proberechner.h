@@ -44,8 +44,8 @@ class Proberechner : public Rechner {
         auto* Grafik =
             NeueTaste("Grafik", "&Grafik", this, [this] { Zeichnen([this] { return AlsDiagramm(); }); });
         auto* ergebnis = Seite(Grid_, {Drucktaste, Grafik});
-        Einrichten({.register_ = {{.seite = daten_, .titel = "Daten", .rollbar = true, .eingabe = true},
-                                  {ergebnis, "Berechnen", [this] { Berechnen(); }, false, true},
+        Einrichten({.register_ = {{.seite = daten_, .titel = "Daten", .eingabe = true},
+                                  {ergebnis, "Berechnen", [this] { Berechnen(); }, true},
                                   {notizen_, "Notizen", [this] { notizen_->setFocus(); }}},
                     .ablage = new Projektablage(*this, Projekt()),
                     .befehle = {{"Auswertungen", "berechnen", "Berechnen", "Berechnen", Qt::Key_F9,

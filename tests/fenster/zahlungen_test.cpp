@@ -131,6 +131,18 @@ class ZahlungenTest : public QObject {
         QVERIFY(Finde<QWidget>(form_.get(), "List1")->isVisible());
     }
 
+    void escVerwirftDieVorschauUndDieEingabeBleibt() {
+        Fuelle(*form_, "Ratzahl", "3");
+        Zahlung(*form_, "01.07.2007", "100");
+        QVERIFY(Finde<QWidget>(form_.get(), "Grid2")->isVisible());
+        Finde<QWidget>(form_.get(), "Betrag")->setFocus();
+        Druecke(Qt::Key_Escape);
+        QVERIFY(!Finde<QWidget>(form_.get(), "Grid2")->isVisible());
+        QCOMPARE(Zeilen(*form_, "List1"), 0);
+        QCOMPARE(Finde<QLineEdit>(form_.get(), "Betrag")->text(), "100");
+        QVERIFY(Finde<QWidget>(form_.get(), "Betrag")->hasFocus());
+    }
+
     void stufenMitProzentVerrechnenSich() {
         Finde<QCheckBox>(form_.get(), "Check1")->setChecked(true);
         Fuelle(*form_, "Stufen", "3");

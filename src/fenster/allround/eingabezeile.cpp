@@ -1,45 +1,52 @@
 #include "fenster/allround/eingabezeile.h"
 
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QVBoxLayout>
 
+#include "fenster/ui/bausteine.h"
 #include "fenster/ui/tabelle.h"
+#include "fenster/ui/umbruchzeile.h"
 
 namespace zinfolio {
+namespace {
 
-Eingabezeile::Eingabezeile(QWidget* eltern) : QWidget(eltern), zeile_(new QHBoxLayout(this)) {
-    zeile_->setContentsMargins(0, 0, 0, 0);
-    zeile_->setSpacing(18);
+constexpr int zwischenraum = 18;
+
+}  // namespace
+
+Eingabezeile::Eingabezeile(QWidget* eltern) : QWidget(eltern), zeile_(new Umbruchzeile(this)) {
+    zeile_->setSpacing(zwischenraum);
 }
 
 QWidget* Eingabezeile::Feld(const char* beschriftung, QWidget* feld, const char* einheit) {
-    auto* gruppe = new QWidget(this);
-    auto* anordnung = new QHBoxLayout(gruppe);
-    anordnung->setContentsMargins(0, 0, 0, 0);
-    auto* titel = new QLabel(QString::fromUtf8(beschriftung), gruppe);
+    auto* titel = new QLabel(QString::fromUtf8(beschriftung), this);
     titel->setBuddy(feld);
-    anordnung->addWidget(titel);
     // A field does not grow with the window, since rates and dates are short; a narrow window may cut it.
     constexpr int schmalste = 60;
     feld->setSizePolicy(QSizePolicy::Maximum, feld->sizePolicy().verticalPolicy());
     if (!qobject_cast<QPushButton*>(feld)) feld->setMinimumWidth(schmalste);
-    anordnung->addWidget(feld);
-    if (*einheit != '\0') anordnung->addWidget(new QLabel(QString::fromUtf8(einheit), gruppe));
+    std::vector<QWidget*> teile{titel, feld};
+    if (*einheit != '\0') teile.push_back(new QLabel(QString::fromUtf8(einheit), this));
+    QWidget* gruppe = Nebeneinander(teile);
     zeile_->addWidget(gruppe);
     return gruppe;
 }
 
 void Eingabezeile::Abstand() {
-    zeile_->addStretch();
+    rechts_ = Nebeneinander({});
+    rechts_->layout()->setSpacing(zwischenraum);
+    zeile_->addWidget(rechts_);
 }
 
 void Eingabezeile::Kennzahl(const char* beschriftung, QLabel* wert) {
-    auto* spalte = new QVBoxLayout;
+    auto* gruppe = new QWidget(rechts_);
+    auto* spalte = new QVBoxLayout(gruppe);
+    spalte->setContentsMargins(0, 0, 0, 0);
     spalte->setSpacing(0);
     spalte->addWidget(new QLabel(QString::fromUtf8(beschriftung)), 0, Qt::AlignRight);
     spalte->addWidget(wert, 0, Qt::AlignRight);
-    zeile_->addLayout(spalte);
+    rechts_->layout()->addWidget(gruppe);
 }
 
 void AnsEndeRollen(Tabelle& tabelle, std::size_t zeilen) {

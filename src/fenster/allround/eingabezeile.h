@@ -2,13 +2,14 @@
 
 #include <QWidget>
 
-class QHBoxLayout;
 class QLabel;
 
 namespace zinfolio {
 
+class Umbruchzeile;
+
 /// The row of inputs at the top of a result: captions and controls side by side, and what the result comes to
-/// at the right.
+/// at the right; what does not fit goes on below.
 class Eingabezeile : public QWidget {
     Q_OBJECT
 
@@ -19,14 +20,15 @@ class Eingabezeile : public QWidget {
     /// given back holds all three, so that they can be hidden together.
     QWidget* Feld(const char* beschriftung, QWidget* feld, const char* einheit = "");
 
-    /// What follows stands at the right.
+    /// The figures that follow stand at the right; what came before keeps to the left.
     void Abstand();
 
-    /// Adds a large figure with a caption above it.
+    /// Adds a large figure with a caption above it. REQUIRES: an `Abstand` before.
     void Kennzahl(const char* beschriftung, QLabel* wert);
 
   private:
-    QHBoxLayout* zeile_;
+    Umbruchzeile* zeile_;
+    QWidget* rechts_ = nullptr;
 };
 
 /// Puts the last row of a long table in sight: it is what the user sees first.

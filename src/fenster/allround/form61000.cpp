@@ -80,10 +80,7 @@ Form61000::Form61000(const std::filesystem::path& arbeitsordner)
 
 std::vector<Registerzeile> Form61000::Registerzeilen() {
     return {
-        {.seite = zahlungen_,
-         .titel = "Zahlungen",
-         .betreten = [this] { letztesRegister_ = zahlungen_; },
-         .rollbar = true},
+        {.seite = zahlungen_, .titel = "Zahlungen", .betreten = [this] { letztesRegister_ = zahlungen_; }},
         {.seite = reihenzins_,
          .titel = "Effektivzinssatz berechnen",
          .betreten = [this] { EffektivzinsRechnen(); },

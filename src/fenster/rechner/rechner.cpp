@@ -1,6 +1,7 @@
 #include "fenster/rechner/rechner.h"
 
 #include <QCloseEvent>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QTabBar>
@@ -19,17 +20,14 @@
 namespace zinfolio {
 namespace {
 
-constexpr const char* verlassentaste = "Verlassen";
-
-void BeiEscape(QWidget* seite, const std::function<void()>& wirkung) {
-    auto* taste = new QShortcut(QKeySequence(Qt::Key_Escape), seite);
-    taste->setObjectName(verlassentaste);
-    taste->setContext(Qt::WidgetWithChildrenShortcut);
-    QObject::connect(taste, &QShortcut::activated, seite, wirkung);
+/// What scrolls a page; made where it has none yet.
+QWidget* Rollrahmen(QWidget* seite) {
+    const QWidget* sicht = seite->parentWidget();
+    auto* rahmen = sicht ? qobject_cast<QScrollArea*>(sicht->parentWidget()) : nullptr;
+    return rahmen ? rahmen : Rollbar(seite);
 }
 
 }  // namespace
-
 Rechner::Rechner(const Rechnerart& art, const std::filesystem::path& arbeitsordner)
     : titel_(art.titel),
       ende_(art.ende),
@@ -70,8 +68,7 @@ void Rechner::Einrichten(Rechnerinhalt inhalt) {
 void Rechner::RegisterAnlegen() {
     for (const Registerzeile& zeile : inhalt_.register_) {
         Beobachten(zeile);
-        TabStrip1_->addTab(zeile.rollbar ? Rollbar(zeile.seite) : zeile.seite,
-                           QString::fromUtf8(zeile.titel));
+        TabStrip1_->addTab(Rollbar(zeile.seite), QString::fromUtf8(zeile.titel));
     }
     connect(TabStrip1_, &QTabWidget::currentChanged, this, &Rechner::Betreten);
     connect(TabStrip1_, &QTabWidget::tabBarClicked, this, [this](int stelle) {
@@ -135,27 +132,32 @@ void Rechner::RegisterZeigen(QWidget* seite) {
 }
 
 void Rechner::RegisterAnhaengen(QWidget* seite, const char* titel, const std::function<void()>& zurueck) {
-    if (!RegisterVorhanden(seite)) TabStrip1_->addTab(seite, QString::fromUtf8(titel));
-    if (!seite->findChild<QShortcut*>(verlassentaste, Qt::FindDirectChildrenOnly)) BeiEscape(seite, zurueck);
+    if (!RegisterVorhanden(seite)) TabStrip1_->addTab(Rollrahmen(seite), QString::fromUtf8(titel));
+    if (seite->findChildren<QShortcut*>(Qt::FindDirectChildrenOnly).isEmpty()) BeiEscape(seite, zurueck);
     RegisterZeigen(seite);
 }
 
 void Rechner::RegisterEntfernen(QWidget* seite) {
-    if (const int stelle = TabStrip1_->indexOf(seite); stelle >= 0) TabStrip1_->removeTab(stelle);
+    if (const int stelle = Stelle(seite); stelle >= 0) TabStrip1_->removeTab(stelle);
+}
+
+bool Rechner::RegisterGewaehlt(QWidget* seite) const {
+    return Stelle(seite) == TabStrip1_->currentIndex();
 }
 
 bool Rechner::RegisterVorhanden(QWidget* seite) const {
-    return TabStrip1_->indexOf(seite) >= 0;
+    return Stelle(seite) >= 0;
 }
 
 void Rechner::SeiteAnlegen(QWidget* seite) {
-    mitte_->addWidget(seite);
+    mitte_->addWidget(Rollrahmen(seite));
     BeiEscape(seite, [this] { Zurueck(); });
 }
 
 void Rechner::SeiteZeigen(QWidget* seite) {
-    if (mitte_->currentWidget() != seite) herkunft_ = mitte_->currentWidget();
-    mitte_->setCurrentWidget(seite);
+    QWidget* rahmen = Rollrahmen(seite);
+    if (mitte_->currentWidget() != rahmen) herkunft_ = mitte_->currentWidget();
+    mitte_->setCurrentWidget(rahmen);
 }
 
 void Rechner::Zurueck() {

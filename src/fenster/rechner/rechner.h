@@ -41,8 +41,6 @@ struct Registerzeile {
     const char* titel;
     /// what selecting the tab does beside showing it
     std::function<void()> betreten = {};
-    /// a page without a table scrolls where the window is too small for it
-    bool rollbar = false;
     /// selecting the tab that is selected already does the same again
     bool erneut = false;
     /// what the user changes in the fields of the page is unsaved; a notes tab is watched without it
@@ -105,6 +103,9 @@ class Rechner : public QMainWindow {
     void RegisterWaehlen(QWidget* seite);
     /// The same without what selecting it does.
     void RegisterZeigen(QWidget* seite);
+
+    /// Whether the tab of a page is the one in front.
+    [[nodiscard]] bool RegisterGewaehlt(QWidget* seite) const;
 
     /// Adds a tab that is there only for a while, and shows it; Escape does `zurueck`.
     void RegisterAnhaengen(QWidget* seite, const char* titel, const std::function<void()>& zurueck);

@@ -8,6 +8,7 @@
 #include "fenster/ui/bausteine.h"
 #include "fenster/ui/meldungsfenster.h"
 #include "fenster/ui/tabelle.h"
+#include "fenster/ui/umbruchzeile.h"
 
 namespace zinfolio {
 namespace {
@@ -57,52 +58,50 @@ QPushButton* RegisterBerechnung::Ergebnistaste(const char* name, const char* bes
 
 QWidget* RegisterBerechnung::Kopfzeile() {
     auto* kopf = new QWidget;
-    auto* zeile = new QHBoxLayout(kopf);
-    zeile->setContentsMargins(0, 0, 0, 0);
+    auto* zeile = new Umbruchzeile(kopf);
     auto* ansicht = new QLabel(QString::fromUtf8(art_.ansichttitel));
     ansicht->setBuddy(ansicht_);
-    zeile->addWidget(ansicht);
-    zeile->addWidget(ansicht_);
-    zeile->addStretch();
+    zeile->addWidget(Nebeneinander({ansicht, ansicht_}));
+    std::vector<QWidget*> kennzahlen;
     for (const Kennzahlzeile& kennzahl : art_.kennzahlen)
-        KennzahlAnlegen(*zeile, kennzahl);
+        kennzahlen.push_back(NeueKennzahlspalte(kennzahl));
     for (const Kennzahlzeile& summe : summenzeilen)
-        KennzahlAnlegen(*zeile, summe);
+        kennzahlen.push_back(NeueKennzahlspalte(summe));
+    QWidget* rechts = Nebeneinander(kennzahlen);
+    rechts->layout()->setSpacing(24);
+    zeile->addWidget(rechts);
     return kopf;
 }
 
-void RegisterBerechnung::KennzahlAnlegen(QHBoxLayout& zeile, const Kennzahlzeile& kennzahl) {
-    auto* titel = new QLabel(QString::fromUtf8(kennzahl.titel), this);
-    QLabel* wert = NeueKennzahl(kennzahl.name, this);
-    kennzahlen_[kennzahl.name] = {wert, titel};
-    auto* spalte = new QVBoxLayout;
+QWidget* RegisterBerechnung::NeueKennzahlspalte(const Kennzahlzeile& kennzahl) {
+    auto* gruppe = new QWidget;
+    auto* titel = new QLabel(QString::fromUtf8(kennzahl.titel), gruppe);
+    QLabel* wert = NeueKennzahl(kennzahl.name, gruppe);
+    kennzahlen_[kennzahl.name] = wert;
+    auto* spalte = new QVBoxLayout(gruppe);
+    spalte->setContentsMargins(0, 0, 0, 0);
     spalte->setSpacing(0);
     spalte->addWidget(titel, 0, Qt::AlignRight);
     spalte->addWidget(wert, 0, Qt::AlignRight);
-    zeile.addSpacing(24);
-    zeile.addLayout(spalte);
+    return gruppe;
 }
 
 QWidget* RegisterBerechnung::Effektivzeile() {
     auto* leiste = new QWidget;
-    auto* zeile = new QHBoxLayout(leiste);
-    zeile->setContentsMargins(0, 0, 0, 0);
+    auto* zeile = new Umbruchzeile(leiste);
     auto* methode = new QLabel("Effektivzinssatzberechnungs&methode");
     methode->setBuddy(methode_);
-    zeile->addWidget(methode);
-    zeile->addWidget(methode_);
+    zeile->addWidget(Nebeneinander({methode, methode_}));
     if (Gibt(art_.rechnen)) {
         zeile->addWidget(Ergebnistaste(art_.rechnen, "&Effektivzinssatz berechnen",
                                        &RegisterBerechnung::effektivzinsVerlangt));
     }
-    zeile->addStretch();
     effektivtitel_ = new QLabel(this);
     effektivtitel_->setObjectName(art_.effektivtitel);
     auto* einheit = new QLabel("%", this);
     einheit->setObjectName("Label28");
     effektivteile_ = {effektivtitel_, ezins_, einheit};
-    for (QLabel* teil : effektivteile_)
-        zeile->addWidget(teil);
+    zeile->addWidget(Nebeneinander({effektivtitel_, ezins_, einheit}));
     EffektivmethodeWaehlen(Effektivmethode::pangv2000);
     EffektivzinsVerbergen();
     return leiste;
@@ -154,10 +153,9 @@ Kontoansicht RegisterBerechnung::Ansicht() const {
 }
 
 void RegisterBerechnung::KennzahlZeigen(const char* name, const std::string& text) {
-    const auto [wert, titel] = kennzahlen_.at(name);
+    QLabel* wert = kennzahlen_.at(name);
     wert->setText(QString::fromStdString(text));
-    wert->setVisible(!text.empty());
-    titel->setVisible(!text.empty());
+    wert->parentWidget()->setVisible(!text.empty());
 }
 
 void RegisterBerechnung::Zeigen(std::vector<Staffelsatz> loesung, const Kontoeinstellungen& grundlage) {
@@ -165,9 +163,9 @@ void RegisterBerechnung::Zeigen(std::vector<Staffelsatz> loesung, const Kontoein
     TastenFreigeben(true);
     grundlage_->setText(QString::fromStdString(Rechengrundlage(grundlage)));
     const Kontosummen summen = KontosummenBilden(*loesung_, art_.regel);
-    kennzahlen_.at("Gesamtzahlungssumme").first->setText(Anzeigetext(summen.Gesamtzahlungssumme));
-    kennzahlen_.at("EV").first->setText(Anzeigetext(summen.Endvermögen));
-    kennzahlen_.at("Geszins").first->setText(Anzeigetext(summen.Gesamtzinsen));
+    kennzahlen_.at("Gesamtzahlungssumme")->setText(Anzeigetext(summen.Gesamtzahlungssumme));
+    kennzahlen_.at("EV")->setText(Anzeigetext(summen.Endvermögen));
+    kennzahlen_.at("Geszins")->setText(Anzeigetext(summen.Gesamtzinsen));
     AnsichtZeigen();
 }
 
@@ -177,7 +175,7 @@ void RegisterBerechnung::Leeren() {
     grundlage_->clear();
     TastenFreigeben(false);
     for (const auto& [name, kennzahl] : kennzahlen_)
-        kennzahl.first->clear();
+        kennzahl->clear();
     for (const Kennzahlzeile& kennzahl : art_.kennzahlen)
         KennzahlZeigen(kennzahl.name, {});
     AnsichtZeigen();

@@ -13,7 +13,6 @@
 #include "kern/staffel/kontoeinstellungen.h"
 
 class QComboBox;
-class QHBoxLayout;
 class QLabel;
 class QPushButton;
 
@@ -99,7 +98,7 @@ class RegisterBerechnung : public QWidget {
 
     QPushButton* Ergebnistaste(const char* name, const char* beschriftung, Signal signal);
     QWidget* Kopfzeile();
-    void KennzahlAnlegen(QHBoxLayout& zeile, const Kennzahlzeile& kennzahl);
+    QWidget* NeueKennzahlspalte(const Kennzahlzeile& kennzahl);
     QWidget* Effektivzeile();
     QWidget* Auszugseite();
     void AnsichtZeigen();
@@ -118,8 +117,8 @@ class RegisterBerechnung : public QWidget {
     QLabel* grundlage_;
     std::vector<QLabel*> effektivteile_;
     Tabelle* Grid_;
-    /// By their names, with their captions.
-    std::map<std::string, std::pair<QLabel*, QLabel*>> kennzahlen_;
+    /// By their names; each lies in a column with its caption.
+    std::map<std::string, QLabel*> kennzahlen_;
     /// What needs an account.
     std::vector<QPushButton*> tasten_;
 };

@@ -140,8 +140,11 @@ RegisterZahlungen::RegisterZahlungen(const Zahlungsregisterart& art, const Satzd
     : QWidget(eltern), art_(art), felder_(this), liste_(Zahlungsliste(), datei, this) {
     setObjectName("Frame1");
     rechts_ = new QStackedWidget;
-    rechts_->addWidget(Listenseite());
-    rechts_->addWidget(Vorschauseite());
+    listenseite_ = Listenseite();
+    vorschauseite_ = Vorschauseite();
+    rechts_->addWidget(listenseite_);
+    rechts_->addWidget(vorschauseite_);
+    escape_ = BeiEscape(this, [this] { VorschauVerwerfen(); });
     auto* anordnung = new QHBoxLayout(this);
     anordnung->setSpacing(18);
     anordnung->addWidget(Eingabeseite());
@@ -149,6 +152,7 @@ RegisterZahlungen::RegisterZahlungen(const Zahlungsregisterart& art, const Satzd
     TabfolgeSetzen(*this, {"Command1", "Speichern", "übernehmen", "verwerfen", "List1", "Bearbeiten",
                            "Löschen", "Datumsortieren", "Grid2", "Command3", "Command4"});
     Verdrahten();
+    RechtsZeigen(listenseite_);
     Zeigen({});
 }
 
@@ -279,7 +283,7 @@ void RegisterZahlungen::VorschauZeigen(const Zahlungseingabe& eingabe) {
     Grid2_->Zeige(Vorschautabelle(std::move(zahlungen), static_cast<std::size_t>(raten), art_));
     vorgesehen_ = eingabe;
     Label10_->setText("Vorschau der Zahlungsreihe: übernehmen oder verwerfen.");
-    rechts_->setCurrentIndex(1);
+    RechtsZeigen(vorschauseite_);
     findChild<QPushButton*>("Command3")->setFocus();
 }
 
@@ -292,7 +296,14 @@ void RegisterZahlungen::VorschauUebernehmen() {
 
 void RegisterZahlungen::VorschauVerwerfen() {
     Label10_->clear();
-    rechts_->setCurrentIndex(0);
+    const QWidget* fokus = vorschauseite_->focusWidget();
+    if (fokus && fokus->hasFocus()) felder_.Fokussieren("Begdatum");
+    RechtsZeigen(listenseite_);
+}
+
+void RegisterZahlungen::RechtsZeigen(QWidget* seite) {
+    rechts_->setCurrentWidget(seite);
+    escape_->setEnabled(seite == vorschauseite_);
 }
 
 void RegisterZahlungen::Schreiben(const Zahlungseingabe& eingabe) {

@@ -9,6 +9,7 @@
 #include "kern/staffel/zahlungseingabe.h"
 
 class QLabel;
+class QShortcut;
 class QStackedWidget;
 
 namespace zinfolio {
@@ -65,6 +66,8 @@ class RegisterZahlungen : public QWidget {
     void VorschauZeigen(const Zahlungseingabe& eingabe);
     void VorschauUebernehmen();
     void VorschauVerwerfen();
+    /// The preview in the place of the list; Escape discards it then.
+    void RechtsZeigen(QWidget* seite);
     void Schreiben(const Zahlungseingabe& eingabe);
     void Sortieren();
     /// What the fields show when a change begins or ends: no payment.
@@ -81,6 +84,9 @@ class RegisterZahlungen : public QWidget {
     FormSatzliste liste_;
     QLabel* Label10_ = nullptr;
     QStackedWidget* rechts_ = nullptr;
+    QWidget* listenseite_ = nullptr;
+    QWidget* vorschauseite_ = nullptr;
+    QShortcut* escape_ = nullptr;
     Tabelle* Grid2_ = nullptr;
     /// The entry of the series in the preview.
     Zahlungseingabe vorgesehen_;

@@ -123,7 +123,7 @@ RegisterBerechnung* Sparrechner::NeuerAuszug() {
 
 std::vector<Registerzeile> Sparrechner::Registerzeilen() {
     std::vector<Registerzeile> zeilen{
-        {.seite = felder_, .titel = "Daten", .rollbar = true, .eingabe = true},
+        {.seite = felder_, .titel = "Daten", .eingabe = true},
         {.seite = auszug_, .titel = "Berechnen", .betreten = [this] { Berechnen(); }},
         {.seite = notizen_, .titel = "Notizen", .betreten = [this] { notizen_->setFocus(); }},
     };

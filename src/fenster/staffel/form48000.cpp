@@ -43,15 +43,13 @@ std::vector<Registerzeile> Form48000::Registerzeilen() {
         };
     };
     return {
-        {.seite = zahlungen_, .titel = "Zahlungen", .betreten = eingabe([] {}), .rollbar = true},
-        {.seite = zinssaetze_,
-         .titel = "Zinssätze",
-         .betreten = eingabe([this] { zinssaetze_->Betreten(); }),
-         .rollbar = true},
-        {.seite = zinsverrechnung_,
-         .titel = "Zinsverrechnung",
-         .betreten = eingabe([this] { zinsverrechnung_->Betreten(); }),
-         .rollbar = true},
+        {.seite = zahlungen_, .titel = "Zahlungen", .betreten = eingabe([] {})},
+        {.seite = zinssaetze_, .titel = "Zinssätze", .betreten = eingabe([this] {
+                                                         zinssaetze_->Betreten();
+                                                     })},
+        {.seite = zinsverrechnung_, .titel = "Zinsverrechnung", .betreten = eingabe([this] {
+                                                                    zinsverrechnung_->Betreten();
+                                                                })},
         {.seite = berechnung_,
          .titel = "Zinsstaffel berechnen",
          .betreten = [this] { KontoRechnen(); },

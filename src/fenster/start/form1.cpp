@@ -20,6 +20,7 @@
 #include "fenster/start/programmstart.h"
 #include "fenster/start/projektabwurf.h"
 #include "fenster/start/rechnertaste.h"
+#include "fenster/start/spaltenfeld.h"
 #include "fenster/tabellen/form14005.h"
 #include "fenster/ui/bausteine.h"
 #include "fenster/ui/fenstergroesse.h"
@@ -164,9 +165,8 @@ void Form1::TafelAnlegen() {
     tafel->addWidget(titel);
     tafel->addWidget(new QLabel("Zinsen, Renditen und Sparpläne nachrechnen, auf den Cent genau."));
     tafel->addSpacing(12);
-    auto* gruppen = new QHBoxLayout;
-    gruppen->setSpacing(18);
-    tafel->addLayout(gruppen);
+    auto* gruppen = new Spaltenfeld;
+    tafel->addWidget(gruppen);
     letzte_ = new Letztetafel([](const QString& datei) {
         const Rechnereintrag* eintrag = Projektrechner(datei);
         return eintrag ? Symbol(QString::fromUtf8(eintrag->symbol)) : QIcon();
@@ -176,16 +176,14 @@ void Form1::TafelAnlegen() {
     tafel->addSpacing(12);
     tafel->addWidget(letzte_);
     tafel->addStretch();
-    Gruppe(*gruppen, "Konto", kontorechner);
-    Gruppe(*gruppen, "Reihen und Tabellen", reihenrechner);
-    Gruppe(*gruppen, "Sparpläne", sparrechner);
+    gruppen->Anfuegen(NeueGruppe("Konto", kontorechner));
+    gruppen->Anfuegen(NeueGruppe("Reihen und Tabellen", reihenrechner));
+    gruppen->Anfuegen(NeueGruppe("Sparpläne", sparrechner));
     setCentralWidget(Rollbar(mitte));
 }
 
-void Form1::Gruppe(QBoxLayout& tafel, const QString& titel, std::span<const Rechnereintrag> rechner) {
+QWidget* Form1::NeueGruppe(const QString& titel, std::span<const Rechnereintrag> rechner) {
     auto* rahmen = new QGroupBox(titel);
-    // All groups are of one width, whatever their texts.
-    rahmen->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto* spalte = new QVBoxLayout(rahmen);
     for (const Rechnereintrag& eintrag : rechner) {
         auto* taste =
@@ -198,7 +196,7 @@ void Form1::Gruppe(QBoxLayout& tafel, const QString& titel, std::span<const Rech
         spalte->addWidget(taste);
     }
     spalte->addStretch();
-    tafel.addWidget(rahmen, 1);
+    return rahmen;
 }
 
 void Form1::Oeffnen(std::string_view name) {

@@ -8,8 +8,6 @@
 #include <span>
 #include <string_view>
 
-class QBoxLayout;
-
 namespace zinfolio {
 
 class Letztetafel;
@@ -43,7 +41,7 @@ class Form1 : public QMainWindow {
   private:
     void MenueAnlegen();
     void TafelAnlegen();
-    void Gruppe(QBoxLayout& tafel, const QString& titel, std::span<const Rechnereintrag> rechner);
+    [[nodiscard]] QWidget* NeueGruppe(const QString& titel, std::span<const Rechnereintrag> rechner);
     QAction* Eintrag(QWidget& menue, const char* name, const QString& text);
     void Oeffnen(std::string_view name);
     void RechnerAnbieten(std::span<const Rechnereintrag> gruppe);

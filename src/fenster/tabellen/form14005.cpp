@@ -57,7 +57,7 @@ void Form14005::Speichern() {
 }
 
 void Form14005::Berechnen() {
-    Ausfuehren([this] { return einzeln_->isHidden() ? tabelle_->Berechnen() : einzeln_->Berechnen(); });
+    Ausfuehren([this] { return RegisterGewaehlt(einzeln_) ? einzeln_->Berechnen() : tabelle_->Berechnen(); });
 }
 
 }  // namespace zinfolio

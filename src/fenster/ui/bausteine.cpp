@@ -1,11 +1,13 @@
 #include "fenster/ui/bausteine.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "fenster/ui/geschuetzt.h"
@@ -26,6 +28,19 @@ class Radwaechter : public QObject {
         return true;
     }
 };
+
+QScrollArea* NeuerRollrahmen(QWidget* inhalt) {
+    auto* rahmen = new QScrollArea;
+    rahmen->setFrameShape(QFrame::NoFrame);
+    rahmen->setWidgetResizable(true);
+    // Tab stops at what can be used, not at the frame around it.
+    rahmen->setFocusPolicy(Qt::NoFocus);
+    rahmen->setWidget(inhalt);
+    // What lies below shines through: the content is a part of its page.
+    rahmen->viewport()->setAutoFillBackground(false);
+    inhalt->setAutoFillBackground(false);
+    return rahmen;
+}
 
 }  // namespace
 
@@ -59,6 +74,15 @@ QLabel* NeueKennzahl(const char* name, QWidget* eltern) {
     return wert;
 }
 
+QWidget* Nebeneinander(const std::vector<QWidget*>& elemente) {
+    auto* gruppe = new QWidget;
+    auto* zeile = new QHBoxLayout(gruppe);
+    zeile->setContentsMargins(0, 0, 0, 0);
+    for (QWidget* element : elemente)
+        zeile->addWidget(element);
+    return gruppe;
+}
+
 QHBoxLayout* Tastenzeile(const std::vector<QPushButton*>& tasten) {
     auto* zeile = new QHBoxLayout;
     for (QPushButton* taste : tasten)
@@ -77,24 +101,28 @@ QWidget* Seite(QWidget* element, const std::vector<QPushButton*>& tasten) {
 }
 
 QWidget* Rollbar(QWidget* seite) {
-    auto* rahmen = new QScrollArea;
-    rahmen->setFrameShape(QFrame::NoFrame);
-    rahmen->setWidgetResizable(true);
-    rahmen->setWidget(seite);
+    auto* rahmen = NeuerRollrahmen(seite);
+    QObject::connect(qApp, &QApplication::focusChanged, rahmen, [rahmen](QWidget*, QWidget* neues) {
+        // What is clicked must not move away below the mouse.
+        const bool getippt = QApplication::mouseButtons() == Qt::NoButton;
+        if (getippt && neues && rahmen->widget()->isAncestorOf(neues)) rahmen->ensureWidgetVisible(neues);
+    });
     return rahmen;
 }
 
 QWidget* Rollspalte(QWidget* inhalt) {
-    auto* rahmen = new QScrollArea;
-    rahmen->setFrameShape(QFrame::NoFrame);
-    rahmen->setWidgetResizable(true);
+    auto* rahmen = NeuerRollrahmen(inhalt);
     rahmen->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    rahmen->setWidget(inhalt);
-    // What lies below shines through: the column is a part of its page.
-    rahmen->viewport()->setAutoFillBackground(false);
-    inhalt->setAutoFillBackground(false);
     rahmen->setFixedWidth(inhalt->sizeHint().width() + rahmen->verticalScrollBar()->sizeHint().width());
     return rahmen;
+}
+
+QShortcut* BeiEscape(QWidget* seite, const std::function<void()>& wirkung) {
+    auto* taste = new QShortcut(QKeySequence(Qt::Key_Escape), seite);
+    taste->setObjectName("Escape");
+    taste->setContext(Qt::WidgetWithChildrenShortcut);
+    QObject::connect(taste, &QShortcut::activated, seite, wirkung);
+    return taste;
 }
 
 void TabfolgeSetzen(const QWidget& form, std::initializer_list<const char*> namen) {
