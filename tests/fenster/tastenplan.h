@@ -17,9 +17,10 @@ namespace zinfolio {
 /// The keys of a window by their owners. Hidden pages own none.
 class Tastenplan {
   public:
-    explicit Tastenplan(QMainWindow& fenster) {
-        for (QAction* aktion : fenster.menuBar()->actions())
-            Ueberall(QKeySequence::mnemonic(aktion->text()), aktion->text());
+    explicit Tastenplan(QWidget& fenster) {
+        if (const auto* leiste = fenster.findChild<QMenuBar*>())
+            for (const QAction* aktion : leiste->actions())
+                Ueberall(QKeySequence::mnemonic(aktion->text()), aktion->text());
         Aktionen(fenster.actions());
         for (QWidget* element : fenster.findChildren<QWidget*>()) {
             if (!element->isVisible()) continue;
