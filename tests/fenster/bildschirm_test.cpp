@@ -55,6 +55,7 @@ class BildschirmTest : public QObject {
         const Testordner ordner;
         Form1 start(ordner.Pfad());
         Zeige(start);
+        QTest::qWait(20);  // what lies below the edge is laid out later
         const auto tasten = start.findChildren<Rechnertaste*>();
         QCOMPARE(tasten.size(), 8);
         for (const Rechnertaste* taste : tasten) {
