@@ -16,14 +16,14 @@ class FenstertastenTest : public QObject {
     void initTestCase() { UhrStellen(*Datum::Aus(2026, 11, 21)); }
 
     void jedeTasteHatEinenBesitzer_data() {
-        QTest::addColumn<Fenstermacher>("neues");
-        for (const auto& [name, neues] : AlleFenster())
-            QTest::newRow(name) << neues;
+        QTest::addColumn<Fensterart>("art");
+        for (const Fensterart& art : AlleFenster())
+            QTest::newRow(art.name) << art;
     }
     void jedeTasteHatEinenBesitzer() {
-        QFETCH(Fenstermacher, neues);
+        QFETCH(Fensterart, art);
         const Testordner ordner;
-        const std::unique_ptr<QWidget> fenster(neues(ordner.Pfad()));
+        const Fenster fenster = art.neu(ordner.Pfad());
         Zeige(*fenster);
         const Zeuge zeuge;
         auto* register_ = fenster->findChild<QTabWidget*>("TabStrip1");
@@ -40,6 +40,6 @@ class FenstertastenTest : public QObject {
     }
 };
 
-Q_DECLARE_METATYPE(zinfolio::Fenstermacher)
+Q_DECLARE_METATYPE(zinfolio::Fensterart)
 ZINFOLIO_FENSTERTEST(FenstertastenTest)
 #include "fenstertasten_test.moc"
