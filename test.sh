@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds everything and runs all tests: the release build with its windows, then the core and
-# the batch command under sanitizers. The last line is the sum. --schnell leaves the sanitizers out.
+# Installs what is missing, builds everything and runs all tests: what the user runs with its windows, and core and batch
+# command once more under sanitizers. The last line is the sum. --schnell leaves the sanitizers out.
 set -euo pipefail
 exec </dev/null
 
@@ -8,19 +8,17 @@ wurzel="$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)"
 cd "$wurzel"
 source skripte/pakete.sh
 
-builds=(pruefung asan)
+geprueft=ON
 case "${1:-}" in
     "") ;;
-    --schnell) builds=(pruefung) ;;
+    --schnell) geprueft=OFF ;;
     *)
         echo "Aufruf: ./test.sh [--schnell]" >&2
         exit 2
         ;;
 esac
 kerne="$(nproc)"
-bestanden=0
-gescheitert=0
-uebersprungen=0
+ergebnis="$wurzel/build/pruefung/ergebnis.xml"
 
 # Prints one count (tests, failures, disabled or skipped) of a JUnit file written by ctest.
 Anzahl() {
@@ -31,31 +29,23 @@ Anzahl() {
         END { if (!gefunden) exit 1 }' "$1"
 }
 
-# Builds one preset, runs its tests and adds them to the sum.
-Pruefen() {
-    local preset="$1" ergebnis="$wurzel/build/$1/ergebnis.xml" ausgang=0 alle schlecht ohne
-    echo "== $preset: bauen"
-    cmake --preset "$preset" >/dev/null
-    cmake --build --preset "$preset" --parallel "$kerne"
-    echo "== $preset: testen"
-    rm -f "$ergebnis"
-    ctest --preset "$preset" --no-tests=error --parallel "$kerne" --timeout 300 --output-junit "$ergebnis" || ausgang=$?
-    alle="$(Anzahl "$ergebnis" tests)"
-    schlecht="$(Anzahl "$ergebnis" failures)"
-    ohne=$(($(Anzahl "$ergebnis" skipped) + $(Anzahl "$ergebnis" disabled)))
-    if [ "$ausgang" -ne 0 ] && [ "$schlecht" -eq 0 ]; then
-        echo "ctest endete mit Status $ausgang, ohne einen gescheiterten Test zu nennen" >&2
-        exit 1
-    fi
-    bestanden=$((bestanden + alle - schlecht - ohne))
-    gescheitert=$((gescheitert + schlecht))
-    uebersprungen=$((uebersprungen + ohne))
-}
-
 PaketeInstallieren pakete.txt bauen testen
-for build in "${builds[@]}"; do
-    Pruefen "$build"
-done
+echo "== bauen"
+cmake --preset pruefung -DZINFOLIO_GEPRUEFT="$geprueft" >/dev/null
+cmake --build --preset pruefung --parallel "$kerne"
+
+echo "== testen"
+rm -f "$ergebnis"
+ausgang=0
+ctest --preset pruefung --no-tests=error --parallel "$kerne" --timeout 300 --output-junit "$ergebnis" || ausgang=$?
+alle="$(Anzahl "$ergebnis" tests)"
+gescheitert="$(Anzahl "$ergebnis" failures)"
+uebersprungen=$(($(Anzahl "$ergebnis" skipped) + $(Anzahl "$ergebnis" disabled)))
+bestanden=$((alle - gescheitert - uebersprungen))
+if [ "$ausgang" -ne 0 ] && [ "$gescheitert" -eq 0 ]; then
+    echo "ctest endete mit Status $ausgang, ohne einen gescheiterten Test zu nennen" >&2
+    exit 1
+fi
 
 summe="$bestanden passed, $gescheitert failed"
 [ "$uebersprungen" -eq 0 ] || summe+=", $uebersprungen skipped"

@@ -9,11 +9,12 @@
 #   == fehler    the whole standard error
 #   == status    the exit status
 #
-# Sections that are left out are empty, the status is 0. Call: fall.sh CASE PROGRAM SOURCES
+# Sections that are left out are empty, the status is 0. $PDFMODUL is a module in the place of the one that writes PDF,
+# $PDFMODUL_FREMD one that does not fit. Call: fall.sh CASE PROGRAM SOURCES MODULE STRANGER
 set -euo pipefail
 
 fall="$(realpath "$1")"
-export PROGRAMM QUELLEN
+export PROGRAMM QUELLEN PDFMODUL="$4" PDFMODUL_FREMD="$5"
 PROGRAMM="$(realpath "$2")"
 QUELLEN="$(realpath "$3")"
 
