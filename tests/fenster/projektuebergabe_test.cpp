@@ -117,6 +117,12 @@ class ProjektuebergabeTest : public QObject {
         QCOMPARE(bote.size(), 1);
     }
 
+    void ohneOrdnerFuerSocketsWirdNichtsUebergeben() {
+        Uebergabestelle stelle;
+        QVERIFY(!stelle.Eroeffnen(""));
+        QVERIFY(!ProjektUebergeben("", "a.ZiS", 100ms));
+    }
+
     void jederArbeitsordnerUndJederBildschirmHatSeineStelle() {
         const QString adresse = Uebergabeadresse("/home/a/.config/Fiskaris");
         QCOMPARE(Uebergabeadresse("/home/a/.config/Fiskaris"), adresse);

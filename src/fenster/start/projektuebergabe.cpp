@@ -22,14 +22,16 @@ constexpr auto vortritt = "XDG_ACTIVATION_TOKEN";
 }  // namespace
 
 QString Uebergabeadresse(const std::filesystem::path& arbeitsordner) {
+    const QString ordner = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    if (ordner.isEmpty()) return {};
     const QByteArray ort = QByteArray::fromStdString(arbeitsordner.string()) + '\n' + qgetenv("DISPLAY") +
                            '\n' + qgetenv("WAYLAND_DISPLAY");
     const QByteArray kennung = QCryptographicHash::hash(ort, QCryptographicHash::Sha256).toHex().left(16);
-    return QDir(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation))
-        .filePath("zinfolio-" + QString::fromLatin1(kennung));
+    return QDir(ordner).filePath("zinfolio-" + QString::fromLatin1(kennung));
 }
 
 bool ProjektUebergeben(const QString& adresse, const QString& datei, std::chrono::milliseconds frist) {
+    if (adresse.isEmpty()) return false;
     QElapsedTimer uhr;
     uhr.start();
     const auto rest = [&] { return static_cast<int>(std::max<qint64>(frist.count() - uhr.elapsed(), 1)); };
@@ -45,6 +47,7 @@ bool ProjektUebergeben(const QString& adresse, const QString& datei, std::chrono
 }
 
 bool Uebergabestelle::Eroeffnen(const QString& adresse) {
+    if (adresse.isEmpty()) return false;
     horcher_ = new QLocalServer(this);
     horcher_->setSocketOptions(QLocalServer::UserAccessOption);
     connect(horcher_, &QLocalServer::newConnection, this, &Uebergabestelle::Annehmen);

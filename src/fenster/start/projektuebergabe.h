@@ -11,7 +11,8 @@ class QLocalSocket;
 namespace zinfolio {
 
 /// Where the program of this working folder is met: a socket in the user's own run-time folder. Another
-/// display has another one, so that a project never opens where nobody looks.
+/// display has another one, so that a project never opens where nobody looks. Empty where the user has no
+/// such folder: nobody is met then.
 [[nodiscard]] QString Uebergabeadresse(const std::filesystem::path& arbeitsordner);
 
 /// Hands a project, or nothing but the wish to see the program, to the one that listens there, and waits
