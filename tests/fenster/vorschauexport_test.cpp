@@ -142,6 +142,18 @@ class VorschauexportTest : public QObject {
         QCOMPARE(v_->form.findChildren<QLabel*>("Ablageort").size(), 1);
     }
 
+    void derHinweisNenntAuchDieDateiInDieGedrucktWurde() {
+        const auto datei = v_->ablage.Pfad() / "Druck.pdf";
+        const Druckwahl drucken([&](QPrinter& drucker) {
+            drucker.setOutputFormat(QPrinter::PdfFormat);
+            drucker.setOutputFileName(QString::fromStdString(datei.string()));
+            return true;
+        });
+        v_->Exportieren(Exportziel::drucker);
+        QVERIFY(std::filesystem::exists(datei));
+        QVERIFY(Finde<QLabel>(&v_->form, "Ablageort")->text().startsWith("Gespeichert: Druck.pdf in /"));
+    }
+
     void derNameVerliertSeineLetztenVierZeichen_data() {
         QTest::addColumn<QString>("gewaehlt");
         QTest::addColumn<QString>("erwartet");

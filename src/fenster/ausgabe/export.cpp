@@ -65,8 +65,10 @@ void DruckerExport(const Exportauftrag& auftrag, const Seitenmaler& maler) {
     DruckEinrichten(drucker, maler.Inhalt());
     if (!DruckerFragen(auftrag.fenster, drucker)) return;
     Fortschrittsfenster anzeige(auftrag.fenster, "Der Bericht wird gedruckt …", Abbruch::unmoeglich);
-    if (Drucken(maler, drucker, anzeige.Zuhoerer())) return;
-    MeldungZeigen(auftrag.fenster, {.text = "Der Bericht kann nicht gedruckt werden."});
+    if (!Drucken(maler, drucker, anzeige.Zuhoerer()))
+        MeldungZeigen(auftrag.fenster, {.text = "Der Bericht kann nicht gedruckt werden."});
+    else if (const QString datei = drucker.outputFileName(); !datei.isEmpty())
+        Ablagehinweis::Zeigen(*auftrag.fenster, datei.toStdString());
 }
 
 void PdfExport(const Exportauftrag& auftrag, const Seitenmaler& maler) {

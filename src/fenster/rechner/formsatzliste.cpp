@@ -28,6 +28,7 @@ FormSatzliste::FormSatzliste(const Satzlistenart& art, const Satzdatei<Staffelsa
       tabelle_(new Tabelle(art.name, eltern)),
       rueckgaengig_(nullptr) {
     tabelle_->setAccessibleName(art.ansage);
+    Trennen();
     NeuerBefehl("Bea&rbeiten", {Qt::Key_Return, Qt::Key_Enter}, [this] { bearbeiten(); });
     NeuerBefehl("&Löschen", {QKeySequence::Delete}, [this] { MarkierteLoeschen(); });
     rueckgaengig_ = NeuerBefehl({}, {QKeySequence::Undo}, [this] { SchrittRueckgaengig(); });
@@ -45,6 +46,12 @@ QAction* FormSatzliste::NeuerBefehl(const QString& beschriftung, std::initialize
     tabelle_->addAction(befehl);
     connect(befehl, &QAction::triggered, this, [this, wirkung] { Geschuetzt(tabelle_, wirkung); });
     return befehl;
+}
+
+void FormSatzliste::Trennen() {
+    auto* strich = new QAction(this);
+    strich->setSeparator(true);
+    tabelle_->addAction(strich);
 }
 
 void FormSatzliste::Lesen() {

@@ -53,6 +53,9 @@ class FormSatzliste : public QObject {
     QAction* NeuerBefehl(const QString& beschriftung, std::initializer_list<QKeySequence> tasten,
                          const std::function<void()>& wirkung);
 
+    /// Draws a line in the context menu before the next command.
+    void Trennen();
+
     /// Puts the marked row under change; a message, and false, where there is none.
     bool AenderungBeginnen();
     void AenderungBeenden() { geaendert_.reset(); }

@@ -200,6 +200,7 @@ QWidget* RegisterZahlungen::Vorschauseite() {
 }
 
 void RegisterZahlungen::EinlesenAnlegen() {
+    liste_.Trennen();
     liste_
         .NeuerBefehl("Zahlungen ein&fügen", {QKeySequence::Paste},
                      [this] { Einlesen(ZahlungenAusZwischenablage); })
