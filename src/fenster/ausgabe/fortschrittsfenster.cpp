@@ -12,12 +12,11 @@ constexpr qint64 takt = 40;
 
 }  // namespace
 
-Fortschrittsfenster::Fortschrittsfenster(QWidget* fenster, const QString& text, Abbruch abbruch,
-                                         const QString& titel)
+Fortschrittsfenster::Fortschrittsfenster(QWidget* fenster, const QString& text, Abbruch abbruch)
     : abbruch_(abbruch),
       dialog_(text, abbruch == Abbruch::moeglich ? "Abbrechen" : QString(), 0, 1, fenster) {
     dialog_.setObjectName("Fortschritt");
-    dialog_.setWindowTitle(titel);
+    dialog_.setWindowTitle("Export");
     dialog_.setWindowModality(Qt::ApplicationModal);
     dialog_.setAutoReset(false);
     dialog_.setAutoClose(false);

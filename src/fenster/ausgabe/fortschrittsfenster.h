@@ -7,14 +7,13 @@
 
 namespace zinfolio {
 
-/// Shows how far a long operation is, as soon as it takes longer than 150 ms. The windows of the program take
+/// Shows how far a long export is, as soon as it takes longer than 150 ms. The windows of the program take
 /// no keys and clicks meanwhile.
 class Fortschrittsfenster {
   public:
     enum class Abbruch { moeglich, unmoeglich };
 
-    Fortschrittsfenster(QWidget* fenster, const QString& text, Abbruch abbruch,
-                        const QString& titel = "Export");
+    Fortschrittsfenster(QWidget* fenster, const QString& text, Abbruch abbruch);
     Fortschrittsfenster(const Fortschrittsfenster&) = delete;
     Fortschrittsfenster& operator=(const Fortschrittsfenster&) = delete;
     ~Fortschrittsfenster() = default;
