@@ -66,6 +66,16 @@ class ListenTest : public QObject {
         QCOMPARE(Zeilen(*form_, "List1"), 3);
     }
 
+    void dieZeileUnterAenderungBleibtLesbar() {
+        DreiZahlungen();
+        Liste()->Markiere(1);
+        Klicke(*form_, "Bearbeiten");
+        QVERIFY(!Liste()->isEnabled());
+        const QPalette farben = Liste()->palette();
+        for (const auto rolle : {QPalette::Highlight, QPalette::HighlightedText})
+            QCOMPARE(farben.color(QPalette::Disabled, rolle), farben.color(QPalette::Active, rolle));
+    }
+
     void dieZeileUnterAenderungBleibtDieMarkierteAuchNachDemSortieren() {
         DreiZahlungen();
         Liste()->Markiere(0);

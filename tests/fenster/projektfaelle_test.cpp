@@ -251,8 +251,11 @@ class ProjektfaelleTest : public QObject {
     void abgebrochenesOeffnenLaesstDasKonto() {
         KontoAnlegen();
         const Zeuge zeuge;
+        Waehle(*form_, Form48000::berechnung);
+        Klicke(*form_, "Command5");
         Oeffnen(std::nullopt);
         QVERIFY(zeuge.texte.isEmpty());
+        QCOMPARE(Register(), int(Form48000::effektivzinssatz));
         QCOMPARE(Text("Projekt"), "Konto.ZiS");
         QVERIFY(!form_->isWindowModified());
         EingegebenesSteht();

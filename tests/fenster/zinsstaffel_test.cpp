@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <fstream>
 
 #include "fenster/kontoformular.h"
@@ -130,6 +131,19 @@ class ZinsstaffelTest : public QObject {
         QCOMPARE(Zeile(*form_, "Grid", 2),
                  "31.03.2007|Zinstermin|2|3|10000|0|0|0|Betrag über Limit|0,00|0|0,00|86,53|0,00|15.086,53");
         QCOMPARE(Summe("EV"), "15.086,53");
+    }
+
+    void detailansicht3BehaeltDatumUndVorgangInSicht() {
+        Beispielkonto();
+        form_->resize(700, 600);
+        Waehle(*form_, Form48000::berechnung);
+        Finde<QComboBox>(form_.get(), "Combo4")->setCurrentText("Detailansicht 3");
+        auto* grid = Finde<QTableView>(form_.get(), "Grid");
+        const auto* feste = Finde<QTableView>(grid, "Festspalten");
+        grid->horizontalScrollBar()->setValue(grid->horizontalScrollBar()->maximum());
+        QVERIFY(feste->isVisible());
+        QVERIFY(!feste->isColumnHidden(0) && !feste->isColumnHidden(1) && feste->isColumnHidden(2));
+        QCOMPARE(feste->model()->index(0, 0).data().toString(), "01.01.2007");
     }
 
     void fehlendesAbschlussdatumWirdZuerstGemeldet() {

@@ -14,6 +14,16 @@
 #include "fenster/ui/tabellenbefehle.h"
 
 namespace zinfolio {
+namespace {
+
+/// Colours by which a marked row stays readable while the list around it is locked.
+QPalette AuchGesperrtLesbar(QPalette farben) {
+    for (const auto rolle : {QPalette::Highlight, QPalette::HighlightedText})
+        farben.setColor(QPalette::Disabled, rolle, farben.color(QPalette::Active, rolle));
+    return farben;
+}
+
+}  // namespace
 
 Tabelle::Tabelle(const QString& name, QWidget* eltern)
     : QTableView(eltern),
@@ -22,6 +32,7 @@ Tabelle::Tabelle(const QString& name, QWidget* eltern)
       normalepunkte_(font().pointSizeF()) {
     setObjectName(name);
     setModel(modell_);
+    setPalette(AuchGesperrtLesbar(palette()));
     setSelectionBehavior(SelectRows);
     setSelectionMode(ExtendedSelection);
     feste_ = new Festspalten(*this);
