@@ -307,6 +307,20 @@ class Form61000Test : public QObject {
         QVERIFY(Sichtbar("Grid3"));
     }
 
+    void barwertdatumHatSeinenKalender() {
+        Investiere();
+        Betritt(barwert);
+        Finde<QLineEdit>(&Form(), "BarwDatum")->setFocus();
+        Druecke(Qt::Key_Tab);
+        QCOMPARE(Fokus(), "BarwDatumKalender");
+        Druecke(Qt::Key_Space);
+        Druecke(Qt::Key_Right);
+        Druecke(Qt::Key_Return);
+        QCOMPARE(Feldtext("BarwDatum"), "02.01.2005");
+        Druecke(Qt::Key_Return);
+        QVERIFY(!Sichtbar("StatAmor"));
+    }
+
     void spaeteresBarwertdatumVerbirgtDieAmortisation() {
         Investiere();
         Betritt(barwert);

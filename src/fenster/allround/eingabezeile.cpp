@@ -5,6 +5,8 @@
 #include <QVBoxLayout>
 
 #include "fenster/ui/bausteine.h"
+#include "fenster/ui/datumsfeld.h"
+#include "fenster/ui/kalendertaste.h"
 #include "fenster/ui/tabelle.h"
 #include "fenster/ui/umbruchzeile.h"
 
@@ -27,6 +29,8 @@ QWidget* Eingabezeile::Feld(const char* beschriftung, QWidget* feld, const char*
     feld->setSizePolicy(QSizePolicy::Maximum, feld->sizePolicy().verticalPolicy());
     if (!qobject_cast<QPushButton*>(feld)) feld->setMinimumWidth(schmalste);
     std::vector<QWidget*> teile{titel, feld};
+    if (auto* datum = qobject_cast<Datumsfeld*>(feld))
+        teile.push_back(new Kalendertaste(feld->objectName() + "Kalender", *datum, this));
     if (*einheit != '\0') teile.push_back(new QLabel(QString::fromUtf8(einheit), this));
     QWidget* gruppe = Nebeneinander(teile);
     zeile_->addWidget(gruppe);

@@ -16,8 +16,8 @@ class Eingabezeile : public QWidget {
   public:
     explicit Eingabezeile(QWidget* eltern = nullptr);
 
-    /// Adds a control behind its caption, in which an `&` makes the mnemonic, and its unit behind it. What is
-    /// given back holds all three, so that they can be hidden together.
+    /// Adds a control behind its caption, in which an `&` makes the mnemonic, and its unit behind it; a date
+    /// with its calendar button. What is given back holds all of them, so that they can be hidden together.
     QWidget* Feld(const char* beschriftung, QWidget* feld, const char* einheit = "");
 
     /// The figures that follow stand at the right; what came before keeps to the left.
