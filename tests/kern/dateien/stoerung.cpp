@@ -68,7 +68,9 @@ extern "C" ssize_t read(int datei, void* ziel, std::size_t anzahl) {
     return erlaubt ? ::syscall(SYS_read, datei, ziel, *erlaubt) : -1;
 }
 
-extern "C" int flock(int datei, int art) {
+// By another name in the source, since the C library has a struct of the same.
+extern "C" int FlockErsatz(int datei, int art) __asm__("flock");
+extern "C" int FlockErsatz(int datei, int art) {
     if (zinfolio::sperrfehler == 0) return static_cast<int>(::syscall(SYS_flock, datei, art));
     errno = zinfolio::sperrfehler;
     return -1;
