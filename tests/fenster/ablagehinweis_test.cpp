@@ -11,6 +11,8 @@
 #include "fenster/formhelfer.h"
 #include "fenster/proberechner.h"
 
+namespace ablagehinweis_test {
+
 using namespace zinfolio;
 
 class AblagehinweisTest : public QObject {
@@ -84,4 +86,7 @@ class AblagehinweisTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(AblagehinweisTest)
+
+}  // namespace ablagehinweis_test
+
 #include "ablagehinweis_test.moc"

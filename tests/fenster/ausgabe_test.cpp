@@ -9,16 +9,14 @@
 #include "fenster/kontoformular.h"
 #include "fenster/ui/uhr.h"
 
+namespace ausgabe_test {
+
 using namespace zinfolio;
 namespace fs = std::filesystem;
-
-namespace {
 
 bool Enthaelt(const std::string& text, const char* teil) {
     return text.find(teil) != std::string::npos;
 }
-
-}  // namespace
 
 class AusgabeTest : public QObject {
     Q_OBJECT
@@ -241,4 +239,7 @@ class AusgabeTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(AusgabeTest)
+
+}  // namespace ausgabe_test
+
 #include "ausgabe_test.moc"

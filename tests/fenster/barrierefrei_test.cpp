@@ -20,9 +20,9 @@
 #include "fenster/formhelfer.h"
 #include "fenster/ui/tabelle.h"
 
-using namespace zinfolio;
+namespace barrierefrei_test {
 
-namespace {
+using namespace zinfolio;
 
 /// What a user types into, chooses from, presses or reads row by row; not the parts that the toolkit makes of
 /// it by itself.
@@ -135,8 +135,6 @@ constexpr double lesbar = 4.5;
 /// For lines and marks.
 constexpr double erkennbar = 3.0;
 
-}  // namespace
-
 class BarrierefreiTest : public QObject {
     Q_OBJECT
 
@@ -237,4 +235,7 @@ class BarrierefreiTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(BarrierefreiTest)
+
+}  // namespace barrierefrei_test
+
 #include "barrierefrei_test.moc"

@@ -12,9 +12,9 @@
 #include "fenster/sparen/sparrechner.h"
 #include "fenster/tabellen/form14005.h"
 
-using namespace zinfolio;
+namespace berichtstext_test {
 
-namespace {
+using namespace zinfolio;
 
 QString Text(QWidget& form, const char* label) {
     return Finde<QLabel>(&form, label)->text();
@@ -92,8 +92,6 @@ void Vergleiche(const QStringList& gitter, const QStringList& seiten, QStringLis
     for (const QString& zeile : kopf)
         QVERIFY2(bericht.contains(zeile), qPrintable(zeile + "\nfehlt in\n" + seiten[0]));
 }
-
-}  // namespace
 
 class BerichtstextTest : public QObject {
     Q_OBJECT
@@ -354,4 +352,7 @@ class BerichtstextTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(BerichtstextTest)
+
+}  // namespace berichtstext_test
+
 #include "berichtstext_test.moc"

@@ -10,6 +10,8 @@
 #include "fenster/kontoformular.h"
 #include "fenster/start/rechnertaste.h"
 
+namespace bildschirm_test {
+
 using namespace zinfolio;
 
 class BildschirmTest : public QObject {
@@ -90,6 +92,8 @@ class BildschirmTest : public QObject {
     }
 };
 
-Q_DECLARE_METATYPE(zinfolio::Fensterart)
 ZINFOLIO_FENSTERTEST(BildschirmTest)
+
+}  // namespace bildschirm_test
+
 #include "bildschirm_test.moc"

@@ -10,10 +10,10 @@
 
 #include "fenster/formhelfer.h"
 
+namespace dateidialog_test {
+
 using namespace zinfolio;
 namespace fs = std::filesystem;
-
-namespace {
 
 /// Does something with the first open modal window of a kind, as soon as there is one.
 template <class Fenster>
@@ -73,8 +73,6 @@ const Dateifrage oeffnungsfrage{.zweck = Dateifrage::Zweck::oeffnen,
                                 .titel = "Konto öffnen",
                                 .filter = "Zahlungsdateien (*.ZiS) |*.ZiS",
                                 .endung = "ZiS"};
-
-}  // namespace
 
 class DateidialogTest : public QObject {
     Q_OBJECT
@@ -230,4 +228,7 @@ class DateidialogTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(DateidialogTest)
+
+}  // namespace dateidialog_test
+
 #include "dateidialog_test.moc"

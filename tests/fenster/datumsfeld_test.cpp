@@ -9,6 +9,8 @@
 #include "fenster/formhelfer.h"
 #include "fenster/ui/uhr.h"
 
+namespace datumsfeld_test {
+
 using namespace zinfolio;
 
 class DatumsfeldTest : public QObject {
@@ -123,4 +125,7 @@ class DatumsfeldTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(DatumsfeldTest)
+
+}  // namespace datumsfeld_test
+
 #include "datumsfeld_test.moc"

@@ -16,9 +16,9 @@
 #include "fenster/ausgabe/formdiagramm.h"
 #include "fenster/formhelfer.h"
 
-using namespace zinfolio;
+namespace diagramm_test {
 
-namespace {
+using namespace zinfolio;
 
 /// A chart of years with `jeJahr` rows each; the balance grows by 100, the payments by 90 from row to row.
 Diagramm Wachstum(int zeilen, int jeJahr, double teiler = 1) {
@@ -74,8 +74,6 @@ QString Ausgabe(const QString& programm, const QStringList& argumente) {
     if (!prozess.waitForFinished() || prozess.exitCode() != 0) qFatal("%s", qPrintable(programm));
     return QString::fromUtf8(prozess.readAllStandardOutput());
 }
-
-}  // namespace
 
 class DiagrammTest : public QObject {
     Q_OBJECT
@@ -483,4 +481,7 @@ class DiagrammTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(DiagrammTest)
+
+}  // namespace diagramm_test
+
 #include "diagramm_test.moc"

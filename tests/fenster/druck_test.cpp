@@ -10,6 +10,8 @@
 #include "fenster/nummernbericht.h"
 #include "fenster/pdfhelfer.h"
 
+namespace druck_test {
+
 using namespace zinfolio;
 namespace fs = std::filesystem;
 
@@ -123,4 +125,7 @@ class DruckTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(DruckTest)
+
+}  // namespace druck_test
+
 #include "druck_test.moc"

@@ -8,6 +8,8 @@
 #include "fenster/kontoformular.h"
 #include "fenster/ui/uhr.h"
 
+namespace effektivzinssatz_test {
+
 using namespace zinfolio;
 
 class EffektivzinssatzTest : public QObject {
@@ -192,4 +194,7 @@ class EffektivzinssatzTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(EffektivzinssatzTest)
+
+}  // namespace effektivzinssatz_test
+
 #include "effektivzinssatz_test.moc"

@@ -12,6 +12,8 @@
 
 #include "fenster/formhelfer.h"
 
+namespace eingabefeld_test {
+
 using namespace zinfolio;
 
 class EingabefeldTest : public QObject {
@@ -256,4 +258,7 @@ class EingabefeldTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(EingabefeldTest)
+
+}  // namespace eingabefeld_test
+
 #include "eingabefeld_test.moc"

@@ -17,6 +17,8 @@
 #include "fenster/ui/feldraster.h"
 #include "fenster/ui/uhr.h"
 
+namespace feldtafel_test {
+
 using namespace zinfolio;
 
 namespace feldtafeltest {
@@ -374,4 +376,7 @@ class FeldtafelTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(FeldtafelTest)
+
+}  // namespace feldtafel_test
+
 #include "feldtafel_test.moc"

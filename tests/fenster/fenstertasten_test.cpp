@@ -7,6 +7,8 @@
 #include "fenster/formhelfer.h"
 #include "fenster/tastenplan.h"
 
+namespace fenstertasten_test {
+
 using namespace zinfolio;
 
 class FenstertastenTest : public QObject {
@@ -40,6 +42,8 @@ class FenstertastenTest : public QObject {
     }
 };
 
-Q_DECLARE_METATYPE(zinfolio::Fensterart)
 ZINFOLIO_FENSTERTEST(FenstertastenTest)
+
+}  // namespace fenstertasten_test
+
 #include "fenstertasten_test.moc"

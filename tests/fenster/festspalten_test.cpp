@@ -9,6 +9,8 @@
 #include "fenster/formhelfer.h"
 #include "fenster/ui/tabelle.h"
 
+namespace festspalten_test {
+
 using namespace zinfolio;
 
 class FestspaltenTest : public QObject {
@@ -113,4 +115,7 @@ class FestspaltenTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(FestspaltenTest)
+
+}  // namespace festspalten_test
+
 #include "festspalten_test.moc"

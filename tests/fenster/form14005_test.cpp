@@ -7,8 +7,7 @@
 #include "fenster/ausgabe/formvorschau.h"
 #include "fenster/formhelfer.h"
 
-namespace zinfolio {
-namespace {
+namespace zinfolio::form14005_test {
 
 using Tabellenstand = Pruefstand<Form14005>;
 
@@ -26,8 +25,6 @@ void KleineTabelle(Form14005& form) {
     Fuelle(form, "J1", "1");
     Fuelle(form, "J2", "2");
 }
-
-}  // namespace
 
 class Form14005Test : public QObject {
     Q_OBJECT
@@ -227,8 +224,8 @@ class Form14005Test : public QObject {
     }
 };
 
-}  // namespace zinfolio
-
-using zinfolio::Form14005Test;
 ZINFOLIO_FENSTERTEST(Form14005Test)
+
+}  // namespace zinfolio::form14005_test
+
 #include "form14005_test.moc"

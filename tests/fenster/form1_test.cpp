@@ -12,6 +12,8 @@
 #include "fenster/start/programmstart.h"
 #include "fenster/ui/tabellendokument.h"
 
+namespace form1_test {
+
 using namespace zinfolio;
 
 class Form1Test : public QObject {
@@ -182,4 +184,7 @@ class Form1Test : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(Form1Test)
+
+}  // namespace form1_test
+
 #include "form1_test.moc"

@@ -15,6 +15,8 @@
 #include "fenster/ausgabe/schriftdialog.h"
 #include "fenster/formhelfer.h"
 
+namespace form34_test {
+
 using namespace zinfolio;
 
 class Form34Test : public QObject {
@@ -266,4 +268,7 @@ class Form34Test : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(Form34Test)
+
+}  // namespace form34_test
+
 #include "form34_test.moc"

@@ -13,14 +13,12 @@
 #include "fenster/ui/tabelle.h"
 #include "fenster/ungeduld.h"
 
+namespace form61000_test {
+
 using namespace zinfolio;
 namespace fs = std::filesystem;
 
-namespace {
-
 enum Register { zahlungen, effektivzins, barwert, endwert, plan, notizen };
-
-}  // namespace
 
 class Form61000Test : public QObject {
     Q_OBJECT
@@ -691,4 +689,7 @@ class Form61000Test : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(Form61000Test)
+
+}  // namespace form61000_test
+
 #include "form61000_test.moc"

@@ -15,9 +15,9 @@
 #include "kern/richtext/notiz.h"
 #include "kern/richtext/rtfschreiben.h"
 
-using namespace zinfolio;
+namespace grossenotizen_test {
 
-namespace {
+using namespace zinfolio;
 
 Richtext EinAbsatz(std::size_t zeichen) {
     Richtext text;
@@ -26,8 +26,6 @@ Richtext EinAbsatz(std::size_t zeichen) {
 }
 
 constexpr const char* mitBild = R"({\rtf1\ansi Vor dem Bild {\pict\wmetafile8 0102030405} danach\par})";
-
-}  // namespace
 
 class GrosseNotizenTest : public QObject {
     Q_OBJECT
@@ -174,4 +172,7 @@ class GrosseNotizenTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(GrosseNotizenTest)
+
+}  // namespace grossenotizen_test
+
 #include "grossenotizen_test.moc"

@@ -9,9 +9,9 @@
 #include "fenster/formhelfer.h"
 #include "fenster/hilfe/hilfethema.h"
 
-using namespace zinfolio;
+namespace handbuchfelder_test {
 
-namespace {
+using namespace zinfolio;
 
 bool IstFeld(const QWidget& element) {
     if (qobject_cast<const QComboBox*>(element.parentWidget()) ||
@@ -28,8 +28,6 @@ QString Kapitel(const QString& name) {
     if (!datei.open(QIODevice::ReadOnly)) qFatal("Kein Kapitel %s", qPrintable(name));
     return QString::fromUtf8(datei.readAll()).remove('*').simplified();
 }
-
-}  // namespace
 
 class HandbuchfelderTest : public QObject {
     Q_OBJECT
@@ -60,4 +58,7 @@ class HandbuchfelderTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(HandbuchfelderTest)
+
+}  // namespace handbuchfelder_test
+
 #include "handbuchfelder_test.moc"

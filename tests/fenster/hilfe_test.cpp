@@ -15,9 +15,9 @@
 #include "fenster/ui/deutsch.h"
 #include "fenster/ui/entertaste.h"
 
-using namespace zinfolio;
+namespace hilfe_test {
 
-namespace {
+using namespace zinfolio;
 
 /// A window with the name of a calculator, two tabs and a field with its caption.
 struct Probefenster : QWidget {
@@ -38,8 +38,6 @@ struct Probefenster : QWidget {
     }
     QLineEdit* feld;
 };
-
-}  // namespace
 
 class HilfeTest : public QObject {
     Q_OBJECT
@@ -134,4 +132,7 @@ class HilfeTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(HilfeTest)
+
+}  // namespace hilfe_test
+
 #include "hilfe_test.moc"

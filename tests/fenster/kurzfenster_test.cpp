@@ -12,8 +12,7 @@
 #include "kern/bericht/textbericht.h"
 #include "kern/tabellen/kurzdatei.h"
 
-namespace zinfolio {
-namespace {
+namespace zinfolio::kurzfenster_test {
 
 /// A quick window in a working folder of its own.
 struct Kurzstand {
@@ -25,8 +24,6 @@ struct Kurzstand {
     Testordner ordner;
     Kurzfenster fenster;
 };
-
-}  // namespace
 
 class KurzfensterTest : public QObject {
     Q_OBJECT
@@ -186,8 +183,8 @@ class KurzfensterTest : public QObject {
     }
 };
 
-}  // namespace zinfolio
-
-using zinfolio::KurzfensterTest;
 ZINFOLIO_FENSTERTEST(KurzfensterTest)
+
+}  // namespace zinfolio::kurzfenster_test
+
 #include "kurzfenster_test.moc"

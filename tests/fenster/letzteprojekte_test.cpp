@@ -11,9 +11,9 @@
 #include "fenster/staffel/form48000.h"
 #include "fenster/start/form1.h"
 
-using namespace zinfolio;
+namespace letzteprojekte_test {
 
-namespace {
+using namespace zinfolio;
 
 /// Makes a file, so that it counts as being there.
 QString Datei(const Testordner& ordner, const QString& name) {
@@ -29,8 +29,6 @@ Form* Offener() {
         if (auto* form = qobject_cast<Form*>(fenster); form && form->isVisible()) return form;
     return nullptr;
 }
-
-}  // namespace
 
 class LetzteProjekteTest : public QObject {
     Q_OBJECT
@@ -164,4 +162,7 @@ class LetzteProjekteTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(LetzteProjekteTest)
+
+}  // namespace letzteprojekte_test
+
 #include "letzteprojekte_test.moc"

@@ -9,6 +9,8 @@
 #include "fenster/kontoformular.h"
 #include "fenster/ui/uhr.h"
 
+namespace listen_test {
+
 using namespace zinfolio;
 
 class ListenTest : public QObject {
@@ -257,4 +259,7 @@ class ListenTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(ListenTest)
+
+}  // namespace listen_test
+
 #include "listen_test.moc"

@@ -10,6 +10,8 @@
 #include "fenster/ui/geschuetzt.h"
 #include "kern/dates/tage30.h"
 
+namespace meldungen_test {
+
 using namespace zinfolio;
 
 class MeldungenTest : public QObject {
@@ -78,4 +80,7 @@ class MeldungenTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(MeldungenTest)
+
+}  // namespace meldungen_test
+
 #include "meldungen_test.moc"

@@ -11,9 +11,9 @@
 #include "fenster/ui/deutsch.h"
 #include "fenster/ui/entertaste.h"
 
-using namespace zinfolio;
+namespace netzwege_test {
 
-namespace {
+using namespace zinfolio;
 
 /// A small web server: answers each path with bytes of its own, and counts who asks.
 class Probeserver : public QTcpServer {
@@ -60,8 +60,6 @@ constexpr const char* verbindung =
 constexpr const char* abgebrochen =
     "Keine Internetverbindung geöffnet - Der Downloadversuch wird abgebrochen !";
 constexpr const char* aktuell = "Sie haben die aktuellste Version. Es gibt kein neueres Update.";
-
-}  // namespace
 
 class NetzwegeTest : public QObject {
     Q_OBJECT
@@ -201,4 +199,7 @@ class NetzwegeTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(NetzwegeTest)
+
+}  // namespace netzwege_test
+
 #include "netzwege_test.moc"

@@ -21,9 +21,9 @@
 #include "kern/richtext/rtfschreiben.h"
 #include "kern/richtext/zufallstext.h"
 
-using namespace zinfolio;
+namespace notizfeld_test {
 
-namespace {
+using namespace zinfolio;
 
 QString Kopf(const char* weitereSchriften = "") {
     return QString(
@@ -37,8 +37,6 @@ QMimeData* Daten(const char* art, const QByteArray& inhalt) {
     daten->setData(art, inhalt);
     return daten;
 }
-
-}  // namespace
 
 class NotizfeldTest : public QObject {
     Q_OBJECT
@@ -402,4 +400,7 @@ class NotizfeldTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(NotizfeldTest)
+
+}  // namespace notizfeld_test
+
 #include "notizfeld_test.moc"

@@ -12,17 +12,15 @@
 #include "kern/bericht/probebericht.h"
 #include "kern/dateien/dateifehler.h"
 
+namespace pdf_test {
+
 using namespace zinfolio;
 namespace fs = std::filesystem;
-
-namespace {
 
 /// A4 across, and the margin of 500 twips, in points.
 constexpr double breite = 842;
 constexpr double hoehe = 595;
 constexpr double seitenrand = 25;
-
-}  // namespace
 
 class PdfTest : public QObject {
     Q_OBJECT
@@ -223,4 +221,7 @@ class PdfTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(PdfTest)
+
+}  // namespace pdf_test
+
 #include "pdf_test.moc"

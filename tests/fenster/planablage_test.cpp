@@ -13,9 +13,9 @@
 #include "fenster/ui/eingabefeld.h"
 #include "kern/dateien/dateifehler.h"
 
-using namespace zinfolio;
+namespace planablage_test {
 
-namespace {
+using namespace zinfolio;
 
 /// Plans of one field each; what is written and read stands in lists.
 class Planrechner : public Rechner {
@@ -68,8 +68,6 @@ class Werterechner : public Rechner {
     std::string inhalt = "5";
     Eingabefeld* Feld = new Eingabefeld("Feld", Tastenfilter::enter, this);
 };
-
-}  // namespace
 
 class PlanablageTest : public QObject {
     Q_OBJECT
@@ -243,4 +241,7 @@ class PlanablageTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(PlanablageTest)
+
+}  // namespace planablage_test
+
 #include "planablage_test.moc"

@@ -8,6 +8,8 @@
 
 #include "fenster/formhelfer.h"
 
+namespace platzhalterfarbe_test {
+
 using namespace zinfolio;
 
 class PlatzhalterfarbeTest : public QObject {
@@ -43,4 +45,7 @@ class PlatzhalterfarbeTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(PlatzhalterfarbeTest)
+
+}  // namespace platzhalterfarbe_test
+
 #include "platzhalterfarbe_test.moc"

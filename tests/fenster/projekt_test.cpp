@@ -11,10 +11,10 @@
 #include "fenster/kontoformular.h"
 #include "fenster/ui/uhr.h"
 
+namespace projekt_test {
+
 using namespace zinfolio;
 namespace fs = std::filesystem;
-
-namespace {
 
 void Schreibe(const fs::path& datei, const std::string& inhalt) {
     std::ofstream(datei, std::ios::binary) << inhalt;
@@ -30,8 +30,6 @@ QString Dateien(const fs::path& ordner) {
         liste << QString::fromStdString(name);
     return liste.join(' ');
 }
-
-}  // namespace
 
 class ProjektTest : public QObject {
     Q_OBJECT
@@ -399,4 +397,7 @@ class ProjektTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(ProjektTest)
+
+}  // namespace projekt_test
+
 #include "projekt_test.moc"

@@ -11,9 +11,9 @@
 #include "fenster/staffel/form48000.h"
 #include "fenster/start/form1.h"
 
-using namespace zinfolio;
+namespace projektabwurf_test {
 
-namespace {
+using namespace zinfolio;
 
 constexpr auto konto = ZINFOLIO_BEISPIELE "/konto.ZiS";
 
@@ -55,8 +55,6 @@ std::filesystem::path Reihe(const Testordner& ablage) {
     QTest::keyClick(&form, Qt::Key_S, Qt::ControlModifier);
     return datei;
 }
-
-}  // namespace
 
 class ProjektabwurfTest : public QObject {
     Q_OBJECT
@@ -167,4 +165,7 @@ class ProjektabwurfTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(ProjektabwurfTest)
+
+}  // namespace projektabwurf_test
+
 #include "projektabwurf_test.moc"

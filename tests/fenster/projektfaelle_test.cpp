@@ -19,18 +19,16 @@
 #include "kern/dateien/groessengrenze.h"
 #include "kern/dateien/ohnevorrechte.h"
 
+namespace projektfaelle_test {
+
 using namespace zinfolio;
 namespace fs = std::filesystem;
-
-namespace {
 
 constexpr const char* nichtGespeichert = "Das Konto konnte nicht gespeichert werden.";
 
 bool Beschreibbar(const fs::path& ordner) {
     return ::faccessat(AT_FDCWD, ordner.c_str(), W_OK, AT_EACCESS) == 0;
 }
-
-}  // namespace
 
 class ProjektfaelleTest : public QObject {
     Q_OBJECT
@@ -332,4 +330,7 @@ class ProjektfaelleTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(ProjektfaelleTest)
+
+}  // namespace projektfaelle_test
+
 #include "projektfaelle_test.moc"

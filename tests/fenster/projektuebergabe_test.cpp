@@ -10,10 +10,10 @@
 
 #include "fenster/formhelfer.h"
 
+namespace projektuebergabe_test {
+
 using namespace zinfolio;
 using namespace std::chrono_literals;
-
-namespace {
 
 /// Runs a hand-over beside the event loop of the one that listens; whether it was taken.
 bool Uebergeben(const QString& adresse, const QString& datei, std::chrono::milliseconds frist = 3000ms) {
@@ -48,8 +48,6 @@ class Programm {
 
     QProcess prozess;
 };
-
-}  // namespace
 
 class ProjektuebergabeTest : public QObject {
     Q_OBJECT
@@ -166,4 +164,7 @@ class ProjektuebergabeTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(ProjektuebergabeTest)
+
+}  // namespace projektuebergabe_test
+
 #include "projektuebergabe_test.moc"

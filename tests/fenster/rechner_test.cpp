@@ -14,6 +14,8 @@
 #include "fenster/proberechner.h"
 #include "fenster/tastenplan.h"
 
+namespace rechner_test {
+
 using namespace zinfolio;
 
 class RechnerTest : public QObject {
@@ -273,4 +275,7 @@ class RechnerTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(RechnerTest)
+
+}  // namespace rechner_test
+
 #include "rechner_test.moc"

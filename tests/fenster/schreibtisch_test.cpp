@@ -7,6 +7,8 @@
 
 #include "fenster/formhelfer.h"
 
+namespace schreibtisch_test {
+
 using namespace zinfolio;
 
 class SchreibtischTest : public QObject {
@@ -75,4 +77,7 @@ class SchreibtischTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(SchreibtischTest)
+
+}  // namespace schreibtisch_test
+
 #include "schreibtisch_test.moc"

@@ -14,9 +14,9 @@
 
 #include "fenster/formhelfer.h"
 
-using namespace zinfolio;
+namespace suchzeile_test {
 
-namespace {
+using namespace zinfolio;
 
 /// A search as slow as one likes: it goes on until it is let through or stopped.
 struct Langsam {
@@ -31,8 +31,6 @@ struct Langsam {
         }
     }
 };
-
-}  // namespace
 
 class SuchzeileTest : public QObject {
     Q_OBJECT
@@ -178,4 +176,7 @@ class SuchzeileTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(SuchzeileTest)
+
+}  // namespace suchzeile_test
+
 #include "suchzeile_test.moc"

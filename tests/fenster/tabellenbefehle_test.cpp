@@ -10,8 +10,7 @@
 #include "fenster/ui/tabelle.h"
 #include "fenster/ui/tabellendokument.h"
 
-namespace zinfolio {
-namespace {
+namespace zinfolio::tabellenbefehle_test {
 
 /// Two rows: a date, a number and a word; the header of the second column has two lines.
 Tabelleninhalt Kontotabelle() {
@@ -68,8 +67,6 @@ struct Tabellenstand {
     Testordner ordner;
     Tabelle tabelle{"Grid"};
 };
-
-}  // namespace
 
 class TabellenbefehleTest : public QObject {
     Q_OBJECT
@@ -206,8 +203,8 @@ class TabellenbefehleTest : public QObject {
     }
 };
 
-}  // namespace zinfolio
-
-using zinfolio::TabellenbefehleTest;
 ZINFOLIO_FENSTERTEST(TabellenbefehleTest)
+
+}  // namespace zinfolio::tabellenbefehle_test
+
 #include "tabellenbefehle_test.moc"

@@ -7,6 +7,8 @@
 #include "fenster/fenstertest.h"
 #include "fenster/kontoformular.h"
 
+namespace tastenplan_test {
+
 using namespace zinfolio;
 
 class TastenplanTest : public QObject {
@@ -81,4 +83,7 @@ class TastenplanTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(TastenplanTest)
+
+}  // namespace tastenplan_test
+
 #include "tastenplan_test.moc"

@@ -9,9 +9,9 @@
 #include "fenster/tabellen/form14005.h"
 #include "fenster/tastenplan.h"
 
-using namespace zinfolio;
+namespace tastenplanrechner_test {
 
-namespace {
+using namespace zinfolio;
 
 QString Doppelte(QMainWindow& form) {
     return Tastenplan(form).Doppelte().join("; ");
@@ -30,8 +30,6 @@ void PlanAngeben(QWidget& form) {
         if (form.findChild<QLineEdit*>(name)) Fuelle(form, name, text);
     }
 }
-
-}  // namespace
 
 class TastenplanrechnerTest : public QObject {
     Q_OBJECT
@@ -108,4 +106,7 @@ class TastenplanrechnerTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(TastenplanrechnerTest)
+
+}  // namespace tastenplanrechner_test
+
 #include "tastenplanrechner_test.moc"

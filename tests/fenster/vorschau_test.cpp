@@ -11,6 +11,8 @@
 
 #include "fenster/vorschauhelfer.h"
 
+namespace vorschau_test {
+
 using namespace zinfolio;
 
 class VorschauTest : public QObject {
@@ -228,4 +230,7 @@ class VorschauTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(VorschauTest)
+
+}  // namespace vorschau_test
+
 #include "vorschau_test.moc"

@@ -12,10 +12,10 @@
 #include "fenster/pdfhelfer.h"
 #include "fenster/vorschauhelfer.h"
 
+namespace vorschauexport_test {
+
 using namespace zinfolio;
 namespace fs = std::filesystem;
-
-namespace {
 
 /// Answers every print dialog while it lives.
 class Druckwahl {
@@ -28,8 +28,6 @@ class Druckwahl {
   private:
     Druckzeuge vorher_;
 };
-
-}  // namespace
 
 class VorschauexportTest : public QObject {
     Q_OBJECT
@@ -238,4 +236,7 @@ class VorschauexportTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(VorschauexportTest)
+
+}  // namespace vorschauexport_test
+
 #include "vorschauexport_test.moc"

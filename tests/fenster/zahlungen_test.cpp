@@ -11,6 +11,8 @@
 #include "fenster/kontoformular.h"
 #include "fenster/ui/uhr.h"
 
+namespace zahlungen_test {
+
 using namespace zinfolio;
 
 class ZahlungenTest : public QObject {
@@ -275,4 +277,7 @@ class ZahlungenTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(ZahlungenTest)
+
+}  // namespace zahlungen_test
+
 #include "zahlungen_test.moc"

@@ -16,9 +16,9 @@
 #include "fenster/staffel/form48000.h"
 #include "fenster/ui/tabelle.h"
 
-using namespace zinfolio;
+namespace zahlungseinleser_test {
 
-namespace {
+using namespace zinfolio;
 
 /// A German bank's file in Windows-1252: lines of the bank, quoted fields, a line of another currency, one
 /// without an amount.
@@ -61,8 +61,6 @@ struct Vorschaugast {
     QStringList ausfaelle;
     bool frei = false;
 };
-
-}  // namespace
 
 class ZahlungseinleserTest : public QObject {
     Q_OBJECT
@@ -221,4 +219,7 @@ class ZahlungseinleserTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(ZahlungseinleserTest)
+
+}  // namespace zahlungseinleser_test
+
 #include "zahlungseinleser_test.moc"

@@ -9,6 +9,8 @@
 #include "fenster/kontoformular.h"
 #include "fenster/ui/uhr.h"
 
+namespace zinssaetze_test {
+
 using namespace zinfolio;
 
 class ZinssaetzeTest : public QObject {
@@ -182,4 +184,7 @@ class ZinssaetzeTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(ZinssaetzeTest)
+
+}  // namespace zinssaetze_test
+
 #include "zinssaetze_test.moc"

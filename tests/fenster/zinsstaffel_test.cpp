@@ -14,6 +14,8 @@
 #include "fenster/ui/uhr.h"
 #include "kern/dateien/satzdatei.h"
 
+namespace zinsstaffel_test {
+
 using namespace zinfolio;
 
 class ZinsstaffelTest : public QObject {
@@ -277,4 +279,7 @@ class ZinsstaffelTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(ZinsstaffelTest)
+
+}  // namespace zinsstaffel_test
+
 #include "zinsstaffel_test.moc"

@@ -7,9 +7,9 @@
 #include "fenster/formhelfer.h"
 #include "fenster/sparen/sparrechner.h"
 
-using namespace zinfolio;
+namespace sparmeldungen_test {
 
-namespace {
+using namespace zinfolio;
 
 /// Fields by their names with their texts; a box is ticked by "x", an entry of a list chosen by its number.
 using Angaben = std::vector<std::pair<const char*, const char*>>;
@@ -158,8 +158,6 @@ void PlanAngeben(QWidget& form, const Angaben& angaben) {
         Angeben(form, name, text);
 }
 
-}  // namespace
-
 class SparmeldungenTest : public QObject {
     Q_OBJECT
 
@@ -226,4 +224,7 @@ class SparmeldungenTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(SparmeldungenTest)
+
+}  // namespace sparmeldungen_test
+
 #include "sparmeldungen_test.moc"

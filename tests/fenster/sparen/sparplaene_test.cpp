@@ -10,9 +10,9 @@
 #include "fenster/formhelfer.h"
 #include "fenster/sparen/sparrechner.h"
 
-using namespace zinfolio;
+namespace sparplaene_test {
 
-namespace {
+using namespace zinfolio;
 
 QComboBox& Plaene(QWidget& form) {
     return *Finde<QComboBox>(&form, "Combo3");
@@ -26,8 +26,6 @@ void PlanWaehlen(QWidget& form, int nummer) {
 QString Feldtext(QWidget& form, const char* feld) {
     return Finde<QLineEdit>(&form, feld)->text();
 }
-
-}  // namespace
 
 class SparplaeneTest : public QObject {
     Q_OBJECT
@@ -231,4 +229,7 @@ class SparplaeneTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(SparplaeneTest)
+
+}  // namespace sparplaene_test
+
 #include "sparplaene_test.moc"

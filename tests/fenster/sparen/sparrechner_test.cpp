@@ -11,9 +11,9 @@
 #include "fenster/formhelfer.h"
 #include "fenster/ungeduld.h"
 
-using namespace zinfolio;
+namespace sparrechner_test {
 
-namespace {
+using namespace zinfolio;
 
 enum Register { daten, berechnen, notizen };
 
@@ -47,8 +47,6 @@ void FuellePlan2007(Form& form) {
     if (form.template findChild<QLineEdit*>("Enddatum")) Fuelle(form, "Enddatum", "31.12.2007");
     if (form.template findChild<QLineEdit*>("Zins")) Fuelle(form, "Zins", "3");
 }
-
-}  // namespace
 
 class SparrechnerTest : public QObject {
     Q_OBJECT
@@ -410,4 +408,7 @@ class SparrechnerTest : public QObject {
 };
 
 ZINFOLIO_FENSTERTEST(SparrechnerTest)
+
+}  // namespace sparrechner_test
+
 #include "sparrechner_test.moc"
