@@ -53,10 +53,18 @@ class BildschirmTest : public QObject {
                  qPrintable(QString("%1 x %2").arg(fenster->width()).arg(fenster->height())));
     }
 
+    void startbildSchneidetKeinenText_data() {
+        QTest::addColumn<int>("breite");
+        QTest::newRow("wie es sich öffnet") << 0;
+        QTest::newRow("drei schmale Spalten") << 800;
+        QTest::newRow("eine Spalte") << 640;
+    }
     void startbildSchneidetKeinenText() {
+        QFETCH(int, breite);
         const Testordner ordner;
         Form1 start(ordner.Pfad());
         Zeige(start);
+        if (breite > 0) start.resize(breite, start.height());
         QTest::qWait(100);  // what lies below the edge is laid out later
         const auto tasten = start.findChildren<Rechnertaste*>();
         QCOMPARE(tasten.size(), 8);

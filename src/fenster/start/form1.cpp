@@ -195,7 +195,7 @@ QWidget* Form1::NeueGruppe(const QString& titel, std::span<const Rechnereintrag>
         connect(taste, &QPushButton::clicked, this, [this, name = eintrag.name] { Oeffnen(name); });
         spalte->addWidget(taste);
     }
-    spalte->addStretch();
+    spalte->addStretch(1);
     return rahmen;
 }
 

@@ -26,7 +26,8 @@ Rechnertaste::Rechnertaste(const QIcon& symbol, const QString& titel, const QStr
     anordnung->setSpacing(12);
     anordnung->addWidget(bild, 0, Qt::AlignTop);
     anordnung->addLayout(texte, 1);
-    QSizePolicy platz(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    // May grow: a fixed height would be that of two lines, however many the width asks for.
+    QSizePolicy platz(QSizePolicy::Preferred, QSizePolicy::Minimum);
     platz.setHeightForWidth(true);
     setSizePolicy(platz);
 }
