@@ -1,6 +1,7 @@
 #include "fenster/ui/festspalten.h"
 
 #include <QContextMenuEvent>
+#include <QCoreApplication>
 #include <QHeaderView>
 #include <QMenu>
 #include <QScrollBar>
