@@ -17,6 +17,7 @@
 #include "kern/dates/zahl.h"
 #include "kern/dates/zahlformat.h"
 #include "kern/grund/windows1252.h"
+#include "kern/staffel/listenspalten.h"
 #include "kern/staffel/listenzeile.h"
 #include "kern/staffel/meldungen.h"
 #include "kern/staffel/staffelsortierung.h"
@@ -93,31 +94,6 @@ constexpr std::array feldzeilen{
     Anzeige<E>({.name = "Datumrech", .titel = "Datum der letzten Zahlung", .absatz = true}),
 };
 
-std::string Betragszelle(const Staffelsatz& satz) {
-    return Format(satz.Zahlbetrag, betragsmuster);
-}
-
-std::string Datumszelle(const Staffelsatz& satz) {
-    return NachUtf8(satz.Satzdatum.Getrimmt());
-}
-
-std::string Textzelle(const Staffelsatz& satz) {
-    return NachUtf8(satz.Zahlungstext.Getrimmt());
-}
-
-Satzlistenart Zahlungsliste() {
-    return {"List1",
-            "Zahlungen",
-            {{.kopf = "Datum", .zelle = Datumszelle, .art = Zellart::datum},
-             {.kopf = "Betrag €", .zelle = Betragszelle},
-             {.kopf = "Beschreibung",
-              .zelle = Textzelle,
-              .art = Zellart::text,
-              .ausrichtung = Zellausrichtung::links}},
-            Zahlungszeile,
-            meldung::zahlungenLoeschen};
-}
-
 /// A numbered table of a series that has so many payments a stage.
 Tabelleninhalt Vorschautabelle(std::shared_ptr<const std::vector<Staffelsatz>> zahlungen,
                                std::size_t zahlungenJeStufe, const Zahlungsregisterart& art) {
@@ -128,7 +104,7 @@ Tabelleninhalt Vorschautabelle(std::shared_ptr<const std::vector<Staffelsatz>> z
                         std::size_t zeile, std::size_t spalte) {
         const Staffelsatz& satz = (*zahlungen)[zeile];
         if (spalte == 0) return std::to_string(zeile + 1);
-        if (spalte == 1) return Datumszelle(satz);
+        if (spalte == 1) return SatzdatumText(satz);
         return Format(satz.Zahlbetrag, zeile % zahlungenJeStufe == 0 ? vorschaumuster : folgemuster);
     };
     return tabelle;
@@ -138,7 +114,11 @@ Tabelleninhalt Vorschautabelle(std::shared_ptr<const std::vector<Staffelsatz>> z
 
 RegisterZahlungen::RegisterZahlungen(const Zahlungsregisterart& art, const Satzdatei<Staffelsatz>& datei,
                                      QWidget* eltern)
-    : QWidget(eltern), art_(art), felder_(this), liste_(Zahlungsliste(), datei, this) {
+    : QWidget(eltern),
+      art_(art),
+      felder_(this),
+      liste_({"List1", "Zahlungen", Zahlungsspalten(), Zahlungszeile, meldung::zahlungenLoeschen}, datei,
+             this) {
     setObjectName("Frame1");
     rechts_ = new QStackedWidget;
     listenseite_ = Listenseite();
@@ -216,7 +196,7 @@ void RegisterZahlungen::Einlesen(Einleser einleser) {
         .platz = HoechstzahlSaetze - std::min(HoechstzahlSaetze, liste_.Saetze().size()),
         .tabelle =
             [](const std::vector<Staffelsatz>& saetze) {
-                return TabelleBilden(Zahlungsliste().spalten,
+                return TabelleBilden(Zahlungsspalten(),
                                      std::make_shared<const std::vector<Staffelsatz>>(saetze));
             },
     };
@@ -336,7 +316,7 @@ void RegisterZahlungen::AenderungBeginnen() {
     const std::size_t zeile = *liste_.Geaendert();
     const Staffelsatz& satz = liste_.Saetze()[zeile];
     Zahlungseingabe eingabe = Grundeingabe();
-    eingabe.Begdatum = NachUtf8(satz.Satzdatum.Getrimmt());
+    eingabe.Begdatum = SatzdatumText(satz);
     eingabe.Betrag = Feldtext(Zahltext(satz.Zahlbetrag));
     eingabe.Beschreibung = NachUtf8(satz.Zahlungstext.Getrimmt());
     Zeigen(eingabe);

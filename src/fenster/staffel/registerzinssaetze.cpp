@@ -9,8 +9,7 @@
 #include "fenster/ui/feldraster.h"
 #include "fenster/ui/geschuetzt.h"
 #include "fenster/ui/meldungsfenster.h"
-#include "kern/dates/zahlformat.h"
-#include "kern/grund/windows1252.h"
+#include "kern/staffel/listenspalten.h"
 #include "kern/staffel/listenzeile.h"
 #include "kern/staffel/meldungen.h"
 #include "kern/staffel/staffelsortierung.h"
@@ -50,46 +49,13 @@ constexpr std::array feldzeilen{
                             .absatz = true}),
 };
 
-template <auto Mitglied>
-std::string Satzzelle(const Staffelsatz& satz) {
-    return Format(satz.kondition.*Mitglied, konditionsmuster);
-}
-
-template <auto Mitglied>
-std::string Betragszelle(const Staffelsatz& satz) {
-    return Format(satz.kondition.*Mitglied, betragsmuster);
-}
-
-std::string Datumszelle(const Staffelsatz& satz) {
-    return NachUtf8(satz.Satzdatum.Getrimmt());
-}
-
-std::string Geltungszelle(const Staffelsatz& satz) {
-    return satz.kondition.Zweitzinsart == 1 ? "Gesamtbetrag" : "Betrag über Limit";
-}
-
-Satzlistenart Konditionsliste() {
-    return {"List2",
-            "Zinskonditionen",
-            {{.kopf = "Gültig ab", .zelle = Datumszelle, .art = Zellart::datum},
-             {.kopf = "1. Guthaben-\nzins %", .zelle = Satzzelle<&Konditionen::Gutzins1>},
-             {.kopf = "2. Guthaben-\nzins %", .zelle = Satzzelle<&Konditionen::Gutzins2>},
-             {.kopf = "ab Guthaben-\nsaldo €", .zelle = Betragszelle<&Konditionen::Guthabenlinie>},
-             {.kopf = "1. Kredit-\nzins %", .zelle = Satzzelle<&Konditionen::Kreditzins1>},
-             {.kopf = "2. Kredit-\nzins %", .zelle = Satzzelle<&Konditionen::Kreditzins2>},
-             {.kopf = "ab Kredit-\nsaldo €", .zelle = Betragszelle<&Konditionen::Kreditlinie>},
-             {.kopf = "2. Zinssatz für",
-              .zelle = Geltungszelle,
-              .art = Zellart::text,
-              .ausrichtung = Zellausrichtung::links}},
-            Konditionszeile,
-            meldung::konditionenLoeschen};
-}
-
 }  // namespace
 
 RegisterZinssaetze::RegisterZinssaetze(const Satzdatei<Staffelsatz>& datei, QWidget* eltern)
-    : QWidget(eltern), felder_(this), liste_(Konditionsliste(), datei, this) {
+    : QWidget(eltern),
+      felder_(this),
+      liste_({"List2", "Zinskonditionen", Konditionsspalten(), Konditionszeile, meldung::konditionenLoeschen},
+             datei, this) {
     setObjectName("Frame2");
     auto* anordnung = new QHBoxLayout(this);
     anordnung->setSpacing(18);

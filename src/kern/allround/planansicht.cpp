@@ -4,7 +4,6 @@
 
 #include "kern/dates/zahl.h"
 #include "kern/dates/zahlformat.h"
-#include "kern/grund/windows1252.h"
 
 namespace zinfolio {
 namespace {
@@ -13,10 +12,6 @@ std::string Zinskopf(double nominalzins) {
     std::string zins = Zahltext(nominalzins);
     std::ranges::replace(zins, ',', '.');
     return "Zinsen nominal  " + zins + " %";
-}
-
-std::string Datumszelle(const Staffelsatz& satz) {
-    return NachUtf8(satz.Satzdatum.Getrimmt());
 }
 
 std::string Vorgang(const Staffelsatz& satz) {
@@ -30,7 +25,7 @@ Zellentabelle Zinsstaffelanzeige2(std::span<const Staffelsatz> kurztableau, doub
     Zellentabelle tabelle({"Datum", "Auszahlung", "Zahlungen", Zinskopf(nominalzins), "Kontostand"});
     tabelle.Reservieren(kurztableau.size());
     for (const Staffelsatz& satz : kurztableau) {
-        tabelle.Anhaengen(std::array{Datumszelle(satz), Format(satz.kondition.Guthabenlinie, betragsmuster),
+        tabelle.Anhaengen(std::array{SatzdatumText(satz), Format(satz.kondition.Guthabenlinie, betragsmuster),
                                      Format(satz.Zahlbetrag, betragsmuster),
                                      Format(-satz.Zinsgutschrift, betragsmuster),
                                      Format(-satz.kondition.Kreditlinie, betragsmuster)});
@@ -43,9 +38,9 @@ Zellentabelle Zinsstaffelanzeige1(std::span<const Staffelsatz> tableau, double n
     tabelle.Reservieren(tableau.size());
     for (const Staffelsatz& satz : tableau) {
         if (satz.Zahlungsart == zahlungsart::kondition) continue;
-        tabelle.Anhaengen(std::array{Datumszelle(satz), Vorgang(satz), Format(satz.Zahlbetrag, betragsmuster),
-                                     Format(-satz.Zinsgutschrift, betragsmuster),
-                                     Format(-satz.Kontostand, betragsmuster)});
+        tabelle.Anhaengen(
+            std::array{SatzdatumText(satz), Vorgang(satz), Format(satz.Zahlbetrag, betragsmuster),
+                       Format(-satz.Zinsgutschrift, betragsmuster), Format(-satz.Kontostand, betragsmuster)});
     }
     return tabelle;
 }

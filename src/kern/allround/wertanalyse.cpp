@@ -8,7 +8,6 @@
 #include "kern/dates/textteile.h"
 #include "kern/dates/zahl.h"
 #include "kern/dates/zahlformat.h"
-#include "kern/grund/windows1252.h"
 
 namespace zinfolio {
 namespace {
@@ -67,10 +66,10 @@ class Wertlauf {
         wertsumme = Endlich(wertsumme + wert);
         dynamisch.Weiter(wertsumme, zeile);
         const Jahresteile spanne = InJahresteile(tage);
-        tabelle.Anhaengen(std::array{
-            NachUtf8(satz.Satzdatum.Getrimmt()), Format(satz.Zahlbetrag, betragsmuster),
-            Format(zahlungssumme, betragsmuster), std::to_string(spanne.jahre), std::to_string(spanne.tage),
-            Format(faktor, faktormuster), Format(wert, betragsmuster), Format(wertsumme, betragsmuster)});
+        tabelle.Anhaengen(std::array{SatzdatumText(satz), Format(satz.Zahlbetrag, betragsmuster),
+                                     Format(zahlungssumme, betragsmuster), std::to_string(spanne.jahre),
+                                     std::to_string(spanne.tage), Format(faktor, faktormuster),
+                                     Format(wert, betragsmuster), Format(wertsumme, betragsmuster)});
     }
 
     [[nodiscard]] Wertaussagen Aussagen() const {
@@ -140,7 +139,7 @@ std::optional<Ablehnung> WertAnalyse(std::span<const Staffelsatz> zahlungen, Wer
     ergebnis = {};
     if (eingabe.Abzins2.empty()) eingabe.Abzins2 = eingabe.Abzins;
     if (zahlungen.empty()) return OhneZahlungen(meldung::erstZahlungen);
-    const std::string erstesDatum = NachUtf8(zahlungen.front().Satzdatum.Getrimmt());
+    const std::string erstesDatum = SatzdatumText(zahlungen.front());
     if (IstNochKeinDatum(eingabe.BarwDatum)) eingabe.BarwDatum = erstesDatum;
     const Datum barwertdatum = Datum::Lesen(eingabe.BarwDatum);
     ergebnis.Frame1 = eingabe.Anzeigeart != Wertart::barwert || erstesDatum == eingabe.BarwDatum;

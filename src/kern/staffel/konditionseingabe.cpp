@@ -5,7 +5,6 @@
 #include "kern/dates/datumpruefen.h"
 #include "kern/dates/feldtext.h"
 #include "kern/dates/zahl.h"
-#include "kern/grund/windows1252.h"
 #include "kern/staffel/meldungen.h"
 
 namespace zinfolio {
@@ -22,9 +21,8 @@ Konditionspruefung Gewarnt(std::string_view text, bool angenommenBisher) {
 }
 
 bool HatDatum(std::span<const Staffelsatz> saetze, const std::string& datumstext) {
-    return std::any_of(saetze.begin(), saetze.end(), [&](const Staffelsatz& satz) {
-        return NachUtf8(satz.Satzdatum.Getrimmt()) == datumstext;
-    });
+    return std::any_of(saetze.begin(), saetze.end(),
+                       [&](const Staffelsatz& satz) { return SatzdatumText(satz) == datumstext; });
 }
 
 void LeereFelderFuellen(Konditionseingabe& e) {
@@ -71,7 +69,7 @@ Staffelsatz KonditionErzeugen(const Konditionseingabe& eingabe) {
 Konditionseingabe KonditionZurEingabe(const Staffelsatz& satz) {
     const Konditionen& k = satz.kondition;
     return {
-        .Gültigdatum = NachUtf8(satz.Satzdatum.Getrimmt()),
+        .Gültigdatum = SatzdatumText(satz),
         .Gutzins1 = Feldtext(Zahltext(k.Gutzins1)),
         .Gutzins2 = Feldtext(Zahltext(k.Gutzins2)),
         .Guthabenlinie = Feldtext(Zahltext(k.Guthabenlinie)),

@@ -11,10 +11,6 @@
 namespace zinfolio {
 namespace {
 
-std::string Datumszelle(const Staffelsatz& satz) {
-    return NachUtf8(satz.Satzdatum.Getrimmt());
-}
-
 template <Zahlungsvorgang Art>
 std::string Vorgang(const Staffelsatz& satz) {
     if (satz.Zahlungsart == zahlungsart::kondition) return "Konditionenänderung";
@@ -75,7 +71,7 @@ constexpr Kontospalte Konditionsspalte(std::string_view kopf, std::string_view b
             .berichtskopf = berichtskopf};
 }
 
-constexpr Kontospalte datumsspalte{.kopf = "Datum", .zelle = Datumszelle, .art = Zellart::datum};
+constexpr Kontospalte datumsspalte{.kopf = "Datum", .zelle = SatzdatumText, .art = Zellart::datum};
 
 Kontospalte Vorgangsspalte(Zahlungsvorgang art) {
     constexpr std::array zellen{Vorgang<Zahlungsvorgang::textOderZahlung>, Vorgang<Zahlungsvorgang::text>,

@@ -52,6 +52,10 @@ Staffelsatz Staffelsatz::Lesen(std::span<const std::byte, Satzlaenge> quelle) {
     return satz;
 }
 
+std::string SatzdatumText(const Staffelsatz& satz) {
+    return NachUtf8(satz.Satzdatum.Getrimmt());
+}
+
 void SetzeDatum(Staffelsatz& satz, std::string_view datumstext) {
     satz.Satzdatum = Festtext<10>::AusWindows1252(datumstext);
     satz.Sortierschluessel = Festtext<10>::AusWindows1252(Schluesseltext(datumstext));

@@ -19,6 +19,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
+#include <string>
 #include <string_view>
 
 #include "kern/dateien/festtext.h"
@@ -95,5 +96,8 @@ static_assert(Staffelsatz::Satzlaenge == 129);
 
 /// Sets date text and sort key of a row.
 void SetzeDatum(Staffelsatz& satz, std::string_view datumstext);
+
+/// The date of a row as it is written (UTF-8), without blanks around it; it may be damaged.
+[[nodiscard]] std::string SatzdatumText(const Staffelsatz& satz);
 
 }  // namespace zinfolio
