@@ -28,6 +28,13 @@ std::string Werttext(std::string_view wert, std::int16_t zahlformat) {
 
 }  // namespace
 
+std::string Kopfseitenzeile(std::string_view bezeichnung, std::string_view wert) {
+    return Zeilenformat({.Spalte1 = kopfseitenbezeichnung,
+                         .Spalte2 = kopfseitenwert,
+                         .Bezeichnung = bezeichnung,
+                         .Wert = wert});
+}
+
 std::string Rechtsbuendig(std::string_view text, int breite) {
     const auto zeichen = static_cast<int>(Zeichenzahl(text));
     std::string ergebnis(static_cast<std::size_t>(zeichen < breite ? breite - zeichen : 0), ' ');

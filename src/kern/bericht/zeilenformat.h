@@ -40,6 +40,13 @@ struct Zeilenangabe {
 /// it out.
 [[nodiscard]] std::string Zeilenformat(const Zeilenangabe& angabe);
 
+/// Where the labels of a report's head page end, and how wide its values are, in characters.
+inline constexpr std::int16_t kopfseitenbezeichnung = 49;
+inline constexpr std::int16_t kopfseitenwert = 53;
+
+/// A line of a report's head page: the label, and the value as it is.
+[[nodiscard]] std::string Kopfseitenzeile(std::string_view bezeichnung, std::string_view wert);
+
 /// The text with so many leading blanks that it has `breite` characters; a longer one as it is.
 [[nodiscard]] std::string Rechtsbuendig(std::string_view text, int breite);
 

@@ -10,18 +10,6 @@
 namespace zinfolio {
 namespace {
 
-constexpr std::int16_t bezeichnungsspalte = 49;
-constexpr std::int16_t wertspalte = 53;
-
-std::string Zeile(std::string_view bezeichnung, std::string_view wert) {
-    return Zeilenformat({.Spalte1 = bezeichnungsspalte,
-                         .Spalte2 = wertspalte,
-                         .Bezeichnung = bezeichnung,
-                         .Wert = wert,
-                         .Ausrichtung = zeilenausrichtung::rechts,
-                         .Zahlformat = zeilenzahlformat::unveraendert});
-}
-
 /// The value of a row, with its unit where the report shows one.
 std::string Wert(const Sparberichtsdaten& daten, const Formzeile& zeile) {
     const Sparfeld& feld = *zeile.feld;
@@ -64,20 +52,20 @@ class Feldzeilen {
         const Sparfeld* feld = zeile.feld;
         if (feld == &sparfeld::Check1 || feld == &sparfeld::Combo5) return;
         if (feld == &sparfeld::Vermendwert && daten.form->bericht.ohneZiel) return;
-        zeilen.push_back(Zeile(zeile.beschriftung, Wert(daten, zeile)));
+        zeilen.push_back(Kopfseitenzeile(zeile.beschriftung, Wert(daten, zeile)));
     }
 
     void Dynamisierung(const Formzeile& zeile) {
         if (daten.plan.Check2 != 1 || zeile.feld == &sparfeld::Command6) return;
         if (zeile.feld->art != Sparfeldart::haken) return Feld(zeile);
-        zeilen.push_back(Zeilenformat({.Spalte1 = bezeichnungsspalte,
+        zeilen.push_back(Zeilenformat({.Spalte1 = kopfseitenbezeichnung,
                                        .Bezeichnung = zeile.beschriftung,
                                        .Ausrichtung = zeilenausrichtung::nurBezeichnung}));
     }
 
     void Begrenzung(const Formzeile& haken, const Formzeile& feld) {
         if (daten.plan.Check2 != 1 || daten.plan.*haken.feld->zahl != 1) return;
-        zeilen.push_back(Zeile(haken.beschriftung, daten.plan.*feld.feld->text));
+        zeilen.push_back(Kopfseitenzeile(haken.beschriftung, daten.plan.*feld.feld->text));
     }
 
     const Sparberichtsdaten& daten;
@@ -126,20 +114,21 @@ Tabelleninhalt SparansichtBilden(const Sparform& form, Kontoansicht ansicht,
 }
 
 std::vector<std::string> Eingabeblock(const Sparberichtsdaten& daten) {
-    std::vector<std::string> zeilen{Zeile("Mandant", daten.mandant)};
+    std::vector<std::string> zeilen{Kopfseitenzeile("Mandant", daten.mandant)};
     if (daten.form->ziel == Sparziel::anfangskapital)
-        zeilen.push_back(Zeile("Anfangskapital", Format(daten.kapital, betragsmuster)));
+        zeilen.push_back(Kopfseitenzeile("Anfangskapital", Format(daten.kapital, betragsmuster)));
     Feldzeilen(daten, zeilen).Schreiben();
     if (daten.ezins) {
-        zeilen.push_back(Zeile("Effektivzinssatzberechnungsmethode",
-                               effektivmethoden[static_cast<std::size_t>(daten.plan.Combo5)]));
-        zeilen.push_back(Zeile("Effektivzinssatz", *daten.ezins + " %"));
+        zeilen.push_back(Kopfseitenzeile("Effektivzinssatzberechnungsmethode",
+                                         effektivmethoden[static_cast<std::size_t>(daten.plan.Combo5)]));
+        zeilen.push_back(Kopfseitenzeile("Effektivzinssatz", *daten.ezins + " %"));
     }
-    if (daten.form->ziel == Sparziel::rendite) zeilen.push_back(Zeile("Nominalzins", daten.Nzins + " %"));
+    if (daten.form->ziel == Sparziel::rendite)
+        zeilen.push_back(Kopfseitenzeile("Nominalzins", daten.Nzins + " %"));
     const Kontosummen summen = KontosummenBilden(Saetze(daten), Sparansichtsregel(*daten.form));
-    zeilen.push_back(Zeile("Gesamtzahlungssumme", summen.Gesamtzahlungssumme));
-    zeilen.push_back(Zeile("Gesamtzinsen", summen.Gesamtzinsen));
-    zeilen.push_back(Zeile("Endvermögen", summen.Endvermögen));
+    zeilen.push_back(Kopfseitenzeile("Gesamtzahlungssumme", summen.Gesamtzahlungssumme));
+    zeilen.push_back(Kopfseitenzeile("Gesamtzinsen", summen.Gesamtzinsen));
+    zeilen.push_back(Kopfseitenzeile("Endvermögen", summen.Endvermögen));
     return zeilen;
 }
 

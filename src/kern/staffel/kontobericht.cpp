@@ -11,8 +11,6 @@
 namespace zinfolio {
 namespace {
 
-constexpr std::int16_t bezeichnungsspalte = 49;
-constexpr std::int16_t wertspalte = 53;
 /// The last line, counted from 1, that a condition may take.
 constexpr std::size_t letzteKonditionszeile = 399;
 constexpr Zahlmuster satzmuster = Zahlmuster::Lesen("###,#0.00000");
@@ -33,18 +31,9 @@ constexpr std::array<Ansichtsformat, 4> ansichtsformate{{
      7, 65},
 }};
 
-std::string Zeile(std::string_view bezeichnung, std::string_view wert) {
-    return Zeilenformat({.Spalte1 = bezeichnungsspalte,
-                         .Spalte2 = wertspalte,
-                         .Bezeichnung = bezeichnung,
-                         .Wert = wert,
-                         .Ausrichtung = zeilenausrichtung::rechts,
-                         .Zahlformat = zeilenzahlformat::unveraendert});
-}
-
 /// The line ends where the labels below it end.
 std::string Projektzeile(const std::string& projekt) {
-    return projekt.empty() ? std::string() : Rechtsbuendig(projekt, bezeichnungsspalte);
+    return projekt.empty() ? std::string() : Rechtsbuendig(projekt, kopfseitenbezeichnung);
 }
 
 std::string Zinsdatenzeile(const Staffelsatz& satz) {
@@ -78,21 +67,21 @@ std::vector<std::string> Kontokopfblock(const Kontoberichtsdaten& daten) {
     const Kontoeinstellungen& einstellungen = daten.einstellungen;
     std::vector<std::string> kopfblock{
         Projektzeile(daten.projekt),
-        Zeile("Zinsverrechnung",
-              zinsverrechnungsarten.at(static_cast<std::size_t>(einstellungen.Zinsverrechnungsart))),
-        Zeile("Verzinsungsmethode",
-              verzinsungsmethoden.at(static_cast<std::size_t>(einstellungen.Verzinsungsmethode))),
-        Zeile("Datum für Kontoabschluss/-berechnung", einstellungen.Kontodatum),
+        Kopfseitenzeile("Zinsverrechnung", zinsverrechnungsarten.at(
+                                               static_cast<std::size_t>(einstellungen.Zinsverrechnungsart))),
+        Kopfseitenzeile("Verzinsungsmethode",
+                        verzinsungsmethoden.at(static_cast<std::size_t>(einstellungen.Verzinsungsmethode))),
+        Kopfseitenzeile("Datum für Kontoabschluss/-berechnung", einstellungen.Kontodatum),
     };
     if (!daten.ezins.empty()) {
-        kopfblock.push_back(Zeile("Effektivzinssatzberechnungsmethode", daten.effektivmethode));
-        kopfblock.push_back(Zeile("Effektivzinssatz ", daten.ezins + " %"));
+        kopfblock.push_back(Kopfseitenzeile("Effektivzinssatzberechnungsmethode", daten.effektivmethode));
+        kopfblock.push_back(Kopfseitenzeile("Effektivzinssatz ", daten.ezins + " %"));
     }
     const Kontosummen summen =
         KontosummenBilden(daten.loesung ? std::span(*daten.loesung) : std::span<const Staffelsatz>());
-    kopfblock.push_back(Zeile("Gesamtzahlungssumme", summen.Gesamtzahlungssumme));
-    kopfblock.push_back(Zeile("Gesamtzinsen", summen.Gesamtzinsen));
-    kopfblock.push_back(Zeile("Endvermögen", summen.Endvermögen));
+    kopfblock.push_back(Kopfseitenzeile("Gesamtzahlungssumme", summen.Gesamtzahlungssumme));
+    kopfblock.push_back(Kopfseitenzeile("Gesamtzinsen", summen.Gesamtzinsen));
+    kopfblock.push_back(Kopfseitenzeile("Endvermögen", summen.Endvermögen));
     kopfblock.emplace_back(konditionsueberschrift);
     KonditionenAnfuegen(kopfblock, daten.konditionen);
     return kopfblock;
