@@ -76,12 +76,13 @@ function(zinfolio_testprogramm name)
 endfunction()
 
 # A test that calls a program: PROGRAMM in the command stands for it. Where ZINFOLIO_GEPRUEFT is on, a second test
-# NAME_geprueft calls the one under the sanitizers.
+# NAME_geprueft calls the one under the sanitizers, unless OHNE_SANITIZER says that it cannot.
 function(zinfolio_probelauf name programm)
-  string(REPLACE "PROGRAMM" "$<TARGET_FILE:${programm}>" befehl "${ARGN}")
+  cmake_parse_arguments(LAUF "OHNE_SANITIZER" "" "" ${ARGN})
+  string(REPLACE "PROGRAMM" "$<TARGET_FILE:${programm}>" befehl "${LAUF_UNPARSED_ARGUMENTS}")
   add_test(NAME ${name} COMMAND ${befehl})
-  if(ZINFOLIO_GEPRUEFT)
-    string(REPLACE "PROGRAMM" "$<TARGET_FILE:${programm}_geprueft>" befehl "${ARGN}")
+  if(ZINFOLIO_GEPRUEFT AND NOT LAUF_OHNE_SANITIZER)
+    string(REPLACE "PROGRAMM" "$<TARGET_FILE:${programm}_geprueft>" befehl "${LAUF_UNPARSED_ARGUMENTS}")
     add_test(NAME ${name}_geprueft COMMAND ${befehl})
   endif()
 endfunction()
